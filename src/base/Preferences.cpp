@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "base/Preferences.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace moravel {
+
+namespace {
+
+const QString SourcesKey = QStringLiteral("sources");
+const QString ZoomKey = QStringLiteral("zoom");
+const QString FrequencyKey = QStringLiteral("ChangeFrequency");
+const QString SizeKey = QStringLiteral("DesktopSize");
+const QString SpacesKey = QStringLiteral("SetAllSpaces");
+const QString ScreensKey = QStringLiteral("SetAllScreens");
+const QString TooltipsKey = QStringLiteral("HideTooltips");
+
+constexpr int AutoSizing = 1000; // a stored 0 cannot be told from an absent value and means this too
+
+int readInt(const Defaults &defaults, const QString &key)
+{
+    constexpr qint64 Least = std::numeric_limits<int>::min();
+    constexpr qint64 Most = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(defaults.integer(key).value_or(0), Least, Most));
+}
+
+} // namespace
+
+Preferences::Preferences(Defaults &defaults, QObject *parent)
+    : QObject(parent)
+    , m_defaults(defaults)
+{
+}
+
+void Preferences::saveSourcePrefs(const QStringList &selectedSources)
+{
+    m_defaults.setList(SourcesKey, selectedSources);
+}
+
+std::optional<QStringList> Preferences::readSourcePrefs() const
+{
+    return m_defaults.list(SourcesKey);
+}
+
+void Preferences::saveZoomPrefs(double zoom)
+{
+    m_defaults.setNumber(ZoomKey, static_cast<float>(zoom));
+}
+
+float Preferences::readZoomPrefs() const
+{
+    return m_defaults.number(ZoomKey).value_or(0.0F);
+}
+
+void Preferences::setChangeFrequency(int minutes)
+{
+    m_defaults.setInteger(FrequencyKey, minutes);
+    m_rotateFrequency = minutes;
+    Q_EMIT menuStateChanged();
+    if (onFrequencyChanged)
+        onFrequencyChanged();
+}
+
+void Preferences::readChangeFrequency()
+{
+    m_rotateFrequency = readInt(m_defaults, FrequencyKey);
+    Q_EMIT menuStateChanged();
+}
+
+void Preferences::setDesktopSize(int sizingTag)
+{
+    m_defaults.setInteger(SizeKey, sizingTag);
+    readSizeSetting();
+}
+
+void Preferences::readSizeSetting()
+{
+    const int stored = readInt(m_defaults, SizeKey);
+    m_desktopSizeSetting = stored == 0 ? AutoSizing : stored;
+    Q_EMIT menuStateChanged();
+}
+
+void Preferences::setDesktopOptions(int optionTag)
+{
+    if (optionTag == AllSpacesTag)
+        m_doSetAllSpaces = !m_doSetAllSpaces;
+    else if (optionTag == AllScreensTag)
+        m_doSetAllScreens = !m_doSetAllScreens;
+    m_defaults.setBoolean(SpacesKey, m_doSetAllSpaces);
+    m_defaults.setBoolean(ScreensKey, m_doSetAllScreens);
+    Q_EMIT menuStateChanged();
+}
+
+void Preferences::readDesktopOptions()
+{
+    m_doSetAllScreens = m_defaults.boolean(ScreensKey).value_or(false);
+    m_doSetAllSpaces = m_defaults.boolean(SpacesKey).value_or(false);
+    Q_EMIT menuStateChanged();
+}
+
+bool Preferences::readHideTooltips() const
+{
+    return m_defaults.boolean(TooltipsKey).value_or(false);
+}
+
+void Preferences::saveHideTooltips(bool hide)
+{
+    m_defaults.setBoolean(TooltipsKey, hide);
+}
+
+} // namespace moravel
