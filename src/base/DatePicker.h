@@ -30,6 +30,11 @@ public:
     /// Sees every proposed date before it is accepted.
     std::function<void(const QDateTime &proposed)> validator;
 
+    /// The program itself is setting the date; lasts for one change (the validation clears it).
+    bool autoChangeDate = false;
+    /// The user has moved away from today; the program then does not move on at midnight.
+    bool userChangeDate = false;
+
 Q_SIGNALS:
     /// The value or the maximum is another one.
     void changed();
