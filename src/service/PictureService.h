@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "service/PicturePass.h"
+#include "service/PictureData.h"
+#include "service/SourceList.h"
+#include "service/ThumbDisplay.h"
+#include "service/ThumbPass.h"
+
+namespace moravel {
+
+/// The service client: builds its parts and ties them together.
+class PictureService {
+public:
+    PictureService(const ServiceContext &context, const QString &baseUrl);
+
+    SourceList &sources() { return m_sources; }
+    ThumbPass &thumbPass() { return m_thumbPass; }
+    Downloads &downloads() { return m_picturePass.downloads(); }
+
+    void refreshDataForThumb(ThumbView &cell) { m_thumbPass.refreshDataForThumb(cell, m_urls); }
+
+private:
+    ServiceContext m_context;
+    ServiceUrls m_urls;
+    HeldFetch m_fetch;
+    PassState m_state;
+    SourceList m_sources;
+    ConnectionQueue m_queue;
+    PictureData m_data;
+    PicturePass m_picturePass;
+    ThumbPass m_thumbPass;
+    ThumbDisplay m_thumbDisplay;
+};
+
+} // namespace moravel

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "service/ServiceUrls.h"
+
+namespace moravel {
+
+namespace {
+
+QString escapedDay(QString day)
+{
+    return day.replace(u'/', QLatin1String("%2F"));
+}
+
+const QLatin1String Refresh("&refresh=true");
+
+} // namespace
+
+ServiceUrls::ServiceUrls(QString base)
+    : m_base(std::move(base))
+{
+}
+
+QString ServiceUrls::query(const QString &option, const QString &shortSource, const QString &day) const
+{
+    return m_base + u"/defs/moravel.irev?option=" + option + u"&source=" + shortSource + u"&date=" + day;
+}
+
+QString ServiceUrls::sources() const
+{
+    return m_base + u"/defs/getSources.irev";
+}
+
+QString ServiceUrls::all(const QString &shortSource, const QString &day) const
+{
+    return query(QStringLiteral("all"), shortSource, escapedDay(day));
+}
+
+QString ServiceUrls::refreshAll(const QString &shortSource, const QString &day) const
+{
+    return all(shortSource, day) + Refresh;
+}
+
+QString ServiceUrls::parent(const QString &shortSource, const QString &day) const
+{
+    return query(QStringLiteral("parent"), shortSource, day);
+}
+
+QString ServiceUrls::thumb(const QString &shortSource, const QString &day) const
+{
+    return query(QStringLiteral("thumb"), shortSource, day);
+}
+
+QString ServiceUrls::captionPlusText(const QString &shortSource, const QString &day) const
+{
+    return query(QStringLiteral("captionPlusText"), shortSource, day) + Refresh;
+}
+
+} // namespace moravel

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "service/HeldFetch.h"
+#include "service/ServiceUrls.h"
+#include "service/Then.h"
+
+#include <QMap>
+
+namespace moravel {
+
+class Files;
+class Folders;
+
+/// Short source name to long source name, in the order of the grid (plain string comparison).
+using SourceNames = QMap<QString, QString>;
+
+/// Reads a sources list: one source a line, long name, tab, short name. Reading stops at the first line
+/// without a tab, and at 1,000 sources (more would only exhaust the window).
+SourceNames parseSources(const QString &text);
+
+/// The sources that the service knows, asked for once and kept in a file for starts without network.
+class SourceList {
+public:
+    SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders);
+
+    /// Asks the service, or takes the kept list when it does not answer.
+    void getSources(const Then &then);
+
+    const SourceNames &sourceNames() const { return m_sourceNames; }
+    void setSourceNames(SourceNames names) { m_sourceNames = std::move(names); }
+
+    void saveSourcesData(const QString &text);
+    QString readSourcesData() const;
+
+private:
+    const HeldFetch &m_fetch;
+    ServiceUrls m_urls;
+    Files &m_files;
+    Folders &m_folders;
+    SourceNames m_sourceNames;
+};
+
+} // namespace moravel

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Images.h"
+
+#include <QFile>
+
+#include <deque>
+
+namespace moravel::testing {
+
+/// Images whose files are pictures when they begin with "IMG". Results come at deliver().
+class FakeImages : public Images {
+public:
+    void load(const QString &path, QSize, std::function<void(QImage)> done) override
+    {
+        m_waiting.push_back([done, ok = isPicture(path)] {
+            QImage image(4, 3, QImage::Format_RGB32);
+            image.fill(Qt::darkCyan);
+            done(ok ? image : QImage());
+        });
+    }
+    void check(const QString &path, std::function<void(QSize)> done) override
+    {
+        m_waiting.push_back([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
+    }
+    bool isImageExtension(const QString &extension) const override
+    {
+        return QStringList{QStringLiteral("jpg"), QStringLiteral("png")}.contains(extension.toLower());
+    }
+    QImage resource(const QString &) const override
+    {
+        QImage image(2, 2, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        return image;
+    }
+
+    bool deliver()
+    {
+        const bool any = !m_waiting.empty();
+        while (!m_waiting.empty()) {
+            const auto fn = std::move(m_waiting.front());
+            m_waiting.pop_front();
+            fn();
+        }
+        return any;
+    }
+
+private:
+    static bool isPicture(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) && file.read(3) == "IMG";
+    }
+    std::deque<std::function<void()>> m_waiting;
+};
+
+} // namespace moravel::testing
