@@ -9,20 +9,22 @@
 namespace moravel::server {
 
 /// What is said of the picture of a day: plain text, one line each, no tabs.
-struct DayText {
+struct DayText
+{
     QString caption; ///< One short line, true of what is seen.
-    QString info;    ///< Two or three sentences with the day's figures.
+    QString info; ///< Two or three sentences with the day's figures.
 };
 
 /// A picture of the day that is computed: the same pixels for the same date and size, on every machine
 /// and at every call. Stateless; all functions may be called from several threads at once.
-class ComputedSource {
+class ComputedSource
+{
 public:
     virtual ~ComputedSource() = default;
 
     virtual QString shortName() const = 0; ///< Identifier in requests: ASCII letters only.
-    virtual QString longName() const = 0;  ///< Display name.
-    virtual QString credit() const = 0;    ///< Who made it and under which terms, one sentence.
+    virtual QString longName() const = 0; ///< Display name.
+    virtual QString credit() const = 0; ///< Who made it and under which terms, one sentence.
 
     virtual DayText text(QDate date) const = 0;
 

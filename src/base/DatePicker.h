@@ -11,14 +11,17 @@ namespace moravel {
 
 /// The chosen moment whose day the grid shows, with its limits: the model behind the date picker widget.
 /// The moment carries a time of day; only its day is shown.
-class DatePicker : public QObject {
+class DatePicker : public QObject
+{
     Q_OBJECT
 
 public:
     using QObject::QObject;
 
     QDateTime dateValue() const { return m_value; }
+
     QDateTime maximumDate() const { return m_maximum; }
+
     std::optional<QDateTime> minimumDate() const { return std::nullopt; } ///< There is none.
 
     void setMaximumDate(const QDateTime &maximum);

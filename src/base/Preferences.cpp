@@ -16,7 +16,8 @@ const QString SpacesKey = QStringLiteral("SetAllSpaces");
 const QString ScreensKey = QStringLiteral("SetAllScreens");
 const QString TooltipsKey = QStringLiteral("HideTooltips");
 
-constexpr int AutoSizing = 1000; // a stored 0 cannot be told from an absent value and means this too
+constexpr int AutoSizing =
+    1000; // a stored 0 cannot be told from an absent value and means this too
 
 int readInt(const Defaults &defaults, const QString &key)
 {
@@ -28,10 +29,8 @@ int readInt(const Defaults &defaults, const QString &key)
 } // namespace
 
 Preferences::Preferences(Defaults &defaults, QObject *parent)
-    : QObject(parent)
-    , m_defaults(defaults)
-{
-}
+    : QObject(parent), m_defaults(defaults)
+{ }
 
 void Preferences::saveSourcePrefs(const QStringList &selectedSources)
 {

@@ -11,7 +11,8 @@ namespace moravel {
 
 /// The user's choices between runs, read from and written to the defaults store, with the fields and
 /// menu check marks that mirror them. Each write sets one key at once; nothing else is cached.
-class Preferences : public QObject {
+class Preferences : public QObject
+{
     Q_OBJECT
 
 public:
@@ -45,8 +46,11 @@ public:
     void setRotateFrequency(int minutes) { m_rotateFrequency = minutes; }
 
     int rotateFrequency() const { return m_rotateFrequency; } ///< Minutes; below 1 means never.
+
     int desktopSizeSetting() const { return m_desktopSizeSetting; }
+
     bool doSetAllSpaces() const { return m_doSetAllSpaces; }
+
     bool doSetAllScreens() const { return m_doSetAllScreens; }
 
     /// Called after the user chose another interval (the desktop's schedule starts anew).

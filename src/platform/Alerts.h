@@ -6,7 +6,8 @@
 namespace moravel {
 
 /// Shows messages that the user must see.
-class Alerts {
+class Alerts
+{
 public:
     virtual ~Alerts() = default;
 

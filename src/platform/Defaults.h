@@ -10,7 +10,8 @@ namespace moravel {
 
 /// The per-user defaults store: typed values by key, each set written at once in the store's own time.
 /// A value of another type than the one asked for reads as absent.
-class Defaults {
+class Defaults
+{
 public:
     virtual ~Defaults() = default;
 

@@ -13,22 +13,26 @@
 namespace moravel {
 
 /// What failed and where: @p description is the system's own words for the user, @p path the place.
-struct FileError {
+struct FileError
+{
     QString path;
     QString description;
 };
 
-template <typename T> using FileResult = tl::expected<T, FileError>;
+template <typename T>
+using FileResult = tl::expected<T, FileError>;
 
 /// The standard folders of the user, without a closing slash. Empty when the platform has none.
-struct StandardFolders {
-    QString pictures;           ///< The user's Pictures folder.
+struct StandardFolders
+{
+    QString pictures; ///< The user's Pictures folder.
     QString applicationSupport; ///< Where applications keep their own data.
 };
 
 /// The bytes of a file as they were when it was opened, mapped or read. Stays valid while the file is
 /// replaced (the old inode lives on).
-class FileBytes {
+class FileBytes
+{
 public:
     virtual ~FileBytes() = default;
     virtual std::string_view bytes() const = 0;
@@ -36,7 +40,8 @@ public:
 
 /// A file that is being written under a hidden temporary name (ending in ".part") beside its target.
 /// Destroying it without commit() removes the temporary file.
-class PartFile {
+class PartFile
+{
 public:
     virtual ~PartFile() = default;
 
@@ -55,7 +60,8 @@ public:
 
 /// Whole-file I/O. An empty path always fails with a description and never touches the working
 /// directory.
-class Files {
+class Files
+{
 public:
     virtual ~Files() = default;
 
@@ -63,7 +69,8 @@ public:
 
     virtual bool exists(const QString &path) const = 0;
     virtual bool isFolder(const QString &path) const = 0;
-    virtual qint64 size(const QString &path) const = 0; ///< Bytes, or -1 when there is no such file.
+    virtual qint64
+    size(const QString &path) const = 0; ///< Bytes, or -1 when there is no such file.
 
     /// Names of the plain files of a folder, without hidden ones, in name order.
     virtual FileResult<QStringList> list(const QString &folder) const = 0;
@@ -81,8 +88,7 @@ public:
     /// Writes @p pieces, one after the other, to a temporary file beside @p path, syncs it, and renames
     /// it over @p path: after a crash the file holds either the old or the new bytes. Syncs the folder.
     virtual FileResult<void> writeAtomically(const QString &path,
-                                             std::initializer_list<std::string_view> pieces)
-        = 0;
+                                             std::initializer_list<std::string_view> pieces) = 0;
 
     /// Starts a file that becomes @p target when it is complete.
     virtual FileResult<std::unique_ptr<PartFile>> startPart(const QString &target) = 0;

@@ -11,7 +11,8 @@ namespace moravel {
 
 /// Image services. Main thread only; decoding happens elsewhere and its result comes back on the main
 /// loop, never from within the call.
-class Images {
+class Images
+{
 public:
     virtual ~Images() = default;
 

@@ -9,7 +9,8 @@
 namespace moravel {
 
 /// A delayed or repeating call that is still due. Destroying the handle cancels the call.
-class DelayedCall {
+class DelayedCall
+{
 public:
     virtual ~DelayedCall() = default;
 };
@@ -17,7 +18,8 @@ public:
 using DelayedCallHandle = std::unique_ptr<DelayedCall>;
 
 /// Keeps the delayed calls of the main loop waiting until it is destroyed.
-class LoopHold {
+class LoopHold
+{
 public:
     virtual ~LoopHold() = default;
 };
@@ -28,7 +30,8 @@ using LoopHoldHandle = std::unique_ptr<LoopHold>;
 ///
 /// Calls fire in the order in which they are due, never from within the call that asked for them.
 /// The time zone of now() is the system's local one.
-class MainLoop {
+class MainLoop
+{
 public:
     virtual ~MainLoop() = default;
 

@@ -12,7 +12,8 @@
 namespace moravel {
 
 /// Every touch of the operating system, lent to the application for its whole life.
-struct Platform {
+struct Platform
+{
     MainLoop &loop;
     HttpClient &http;
     Defaults &defaults;

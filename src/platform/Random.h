@@ -6,7 +6,8 @@
 namespace moravel {
 
 /// A source of random numbers; not for secrets.
-class Random {
+class Random
+{
 public:
     virtual ~Random() = default;
 

@@ -38,22 +38,20 @@ FormPost formPost(const QString &url)
 QString cleanedAnswer(const QByteArray &bytes)
 {
     return decodedUtf8(bytes).value_or(QString()).trimmed().replace(QLatin1String("\\%"),
-                                                                     QLatin1String("%"));
+                                                                    QLatin1String("%"));
 }
 
 ConnectionQueue::ConnectionQueue(HttpClient &http, MainLoop &loop, const ServicePorts &ports)
-    : m_http(http)
-    , m_loop(loop)
-    , m_ports(ports)
-{
-}
+    : m_http(http), m_loop(loop), m_ports(ports)
+{ }
 
 void ConnectionQueue::setProcessMethod(const QString &name, ProcessMethod method)
 {
     m_processMethods.insert(name, std::move(method));
 }
 
-void ConnectionQueue::addConnectionToQueue(const QString &url, ThumbView &cell, const QString &method)
+void ConnectionQueue::addConnectionToQueue(const QString &url, ThumbView &cell,
+                                           const QString &method)
 {
     m_queue.push_back({url, &cell, method, cell.dateString()});
     scheduleCheck();

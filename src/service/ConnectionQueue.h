@@ -14,7 +14,8 @@
 namespace moravel {
 
 /// Where and what a queued address is posted to: the query becomes the body.
-struct FormPost {
+struct FormPost
+{
     QString target;
     QByteArray body;
 };
@@ -28,7 +29,8 @@ QString cleanedAnswer(const QByteArray &bytes);
 
 /// The requests for picture data, sent one at a time, in order, as form POSTs. An answer goes to the
 /// operation named in its record, whose cell is then processThumb().
-class ConnectionQueue {
+class ConnectionQueue
+{
 public:
     /// Gets the cleaned answer (empty after a failure) and says when it is dealt with.
     using ProcessMethod = std::function<void(const QString &answer, const Then &then)>;
@@ -45,13 +47,17 @@ public:
     void checkConnectionQueue();
 
     bool isEmpty() const { return m_queue.empty(); }
+
     /// True while a request is in flight or a thumbnail is being fetched.
     bool isConnecting() const { return m_inFlight || m_thumbFetches > 0; }
+
     bool connectionFailed() const { return m_connectionFailed; }
+
     void clearConnectionFailed() { m_connectionFailed = false; }
 
     /// Keeps requests back while a thumbnail is fetched; calls are counted.
     void beginThumbFetch() { ++m_thumbFetches; }
+
     void endThumbFetch() { --m_thumbFetches; }
 
     /// Returns the cell of the answer being processed and forgets it.

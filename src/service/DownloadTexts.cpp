@@ -40,7 +40,8 @@ QString downloadStatusText(const DownloadProgress &progress)
 QString downloadWindowText(const DownloadProgress &progress)
 {
     if (progress.kbReceived() == progress.kbExpected())
-        return QCoreApplication::translate("moravel", "Saving pic from %1...").arg(sourceText(progress));
+        return QCoreApplication::translate("moravel", "Saving pic from %1...")
+            .arg(sourceText(progress));
     return downloadStatusText(progress);
 }
 

@@ -8,12 +8,14 @@
 namespace moravel {
 
 /// How far a download is. Lengths are in bytes; kilobytes are whole ones of 1024.
-struct DownloadProgress {
-    QString source;           ///< Long source name; null when it is not known.
+struct DownloadProgress
+{
+    QString source; ///< Long source name; null when it is not known.
     qint64 bytesReceived = 0;
     qint64 bytesExpected = -1; ///< -1 when the server does not tell.
 
     qint64 kbExpected() const { return bytesExpected / 1024; }
+
     /// Whole kilobytes so far, at most the expected ones.
     qint64 kbReceived() const;
     /// Per cent of the expected bytes; nothing when the length is not known.

@@ -27,7 +27,8 @@ QString extensionOf(const QString &link)
 
 } // namespace
 
-struct Downloads::Download {
+struct Downloads::Download
+{
     QString path;
     DownloadProgress progress;
     QPointer<ThumbView> cell;
@@ -36,10 +37,8 @@ struct Downloads::Download {
 };
 
 Downloads::Downloads(const ServiceContext &context, std::function<void()> finished)
-    : m_context(context)
-    , m_finished(std::move(finished))
-{
-}
+    : m_context(context), m_finished(std::move(finished))
+{ }
 
 Downloads::~Downloads() = default;
 
@@ -110,7 +109,8 @@ HttpHandlers Downloads::handlers(const std::weak_ptr<Download> &weak)
     };
     HttpHandlers handlers;
     handlers.onResponse = [this, inOrder](const HttpResponse &response) {
-        inOrder([this, response](const DownloadPtr &d) { downloadDidReceiveResponse(*d, response); });
+        inOrder(
+            [this, response](const DownloadPtr &d) { downloadDidReceiveResponse(*d, response); });
     };
     handlers.onData = [this, inOrder](const QByteArray &bytes) {
         inOrder([this, bytes](const DownloadPtr &d) { downloadDidReceiveData(d, bytes); });
@@ -127,7 +127,8 @@ HttpHandlers Downloads::handlers(const std::weak_ptr<Download> &weak)
 LargePicPort *Downloads::windowFor(const Download &download) const
 {
     LargePicPort *window = m_context.ports.largePic;
-    const bool waits = window && window->isVisible() && window->currentLargePicPath() == download.path;
+    const bool waits =
+        window && window->isVisible() && window->currentLargePicPath() == download.path;
     return waits ? window : nullptr;
 }
 

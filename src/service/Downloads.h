@@ -16,7 +16,8 @@ namespace moravel {
 /// Downloads large pictures into the Picture folder. A file appears there only when it is complete and
 /// can be decoded; what fails leaves nothing. Several downloads may run, one for a file; progress texts
 /// follow the one started last.
-class Downloads {
+class Downloads
+{
 public:
     /// @p finished lets the large-picture pass go on.
     Downloads(const ServiceContext &context, std::function<void()> finished);
@@ -30,11 +31,14 @@ public:
 
     /// Path that the download started last writes to; empty when there is none.
     QString downloadPath() const;
+
     bool isActive() const { return m_active != nullptr; }
+
     bool isDownloading(const QString &path) const;
 
     /// Tells whether the last try for this file failed, since forgetFailures().
     bool hasFailed(const QString &path) const { return m_failed.contains(path); }
+
     void forgetFailures() { m_failed.clear(); }
 
     /// Cancels everything and removes what is half written.

@@ -3,13 +3,11 @@
 
 namespace moravel {
 
-HeldFetch::HeldFetch(HttpClient &http, MainLoop &loop)
-    : m_http(http)
-    , m_loop(loop)
-{
-}
+HeldFetch::HeldFetch(HttpClient &http, MainLoop &loop) : m_http(http), m_loop(loop)
+{ }
 
-void HeldFetch::get(const QString &link, qint64 maxBytes, std::function<void(FetchResult)> done) const
+void HeldFetch::get(const QString &link, qint64 maxBytes,
+                    std::function<void(FetchResult)> done) const
 {
     HttpRequest request;
     request.url = QUrl(link);

@@ -10,7 +10,8 @@ namespace moravel {
 
 /// Fetches that the program's own sequence waits for: until the answer has been dealt with, no delayed
 /// call runs, while the window goes on painting and answering. Given up after 10 seconds.
-class HeldFetch {
+class HeldFetch
+{
 public:
     static constexpr double TotalSeconds = 10;
 

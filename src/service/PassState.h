@@ -9,13 +9,14 @@
 namespace moravel {
 
 /// Where the two passes stand. Both walk the cells with the one index, never at the same time.
-struct PassState {
+struct PassState
+{
     enum class Pass { None, Thumbs, Pictures };
 
-    int thumbIndex = 0;                     ///< The next cell to handle.
+    int thumbIndex = 0; ///< The next cell to handle.
     std::optional<QDateTime> lastDataCheck; ///< When the last full thumbnail pass ended.
-    QString currentLongSource;              ///< The source being handled, for status texts.
-    Pass pass = Pass::None;                 ///< Which pass the index belongs to.
+    QString currentLongSource; ///< The source being handled, for status texts.
+    Pass pass = Pass::None; ///< Which pass the index belongs to.
 };
 
 } // namespace moravel

@@ -14,9 +14,7 @@ constexpr qint64 FurthestBack = 7 * DaySeconds; // from the picker's moment to t
 } // namespace
 
 PictureData::PictureData(const ServiceContext &context, ServiceUrls urls, ConnectionQueue &queue)
-    : m_context(context)
-    , m_urls(std::move(urls))
-    , m_queue(queue)
+    : m_context(context), m_urls(std::move(urls)), m_queue(queue)
 {
     m_queue.setProcessMethod(ProcessThumbData, [this](const QString &answer, const Then &then) {
         processThumbData(answer, then);
@@ -54,7 +52,8 @@ void PictureData::processThumbData(const QString &answer, const Then &then)
     if (localDate.isEmpty())
         localDate = m_context.dates.longDate(m_context.datePicker.dateValue());
     if (!sufficientData(lines)) {
-        qCInfo(lcService) << cell->shortSourceName() << localDate << "has no picture:" << lines[0].left(200);
+        qCInfo(lcService) << cell->shortSourceName() << localDate
+                          << "has no picture:" << lines[0].left(200);
         tryDayBefore(*cell, localDate, then);
         return;
     }
@@ -108,7 +107,8 @@ void PictureData::displayThumbData(const QStringList &fields, ThumbView &inThumb
         const auto &desktop = m_context.ports.currentDesktopPath;
         inThumb.setUsedAsDesktop(!file.isEmpty() && desktop && desktop() == file);
     }
-    inThumb.showCaption(fields[2] == ThumbView::deletedMark() ? QStringLiteral("Deleted.") : fields[5]);
+    inThumb.showCaption(fields[2] == ThumbView::deletedMark() ? QStringLiteral("Deleted.")
+                                                              : fields[5]);
     m_displayThumbForSource(inThumb.shortSourceName(), then);
 }
 

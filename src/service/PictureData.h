@@ -9,7 +9,8 @@ namespace moravel {
 
 /// Gets the data of one picture, from the record file or from the service, and shows it in its cell.
 /// When the service has nothing for a day, the days before are tried, at most a week back.
-class PictureData {
+class PictureData
+{
 public:
     /// Shows the thumbnail of the cell of a source and lets the pass go on.
     using DisplayThumb = std::function<void(const QString &shortSource, const Then &then)>;
@@ -29,7 +30,8 @@ public:
     void displayThumbData(const QStringList &fields, ThumbView &inThumb, const Then &then);
 
 private:
-    QStringList record(const QStringList &lines, const ThumbView &cell, const QString &localDate) const;
+    QStringList record(const QStringList &lines, const ThumbView &cell,
+                       const QString &localDate) const;
     void tryDayBefore(ThumbView &cell, const QString &localDate, const Then &then);
 
     const ServiceContext &m_context;

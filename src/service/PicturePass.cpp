@@ -17,8 +17,7 @@ PicturePass::PicturePass(const ServiceContext &context, PassState &state, Connec
     , m_state(state)
     , m_queue(queue)
     , m_downloads(context, [this] { downloadFinished(); })
-{
-}
+{ }
 
 void PicturePass::loadNextPic()
 {
@@ -33,8 +32,8 @@ void PicturePass::loadNextPic()
     if (m_state.thumbIndex >= m_context.cells.count()) {
         m_state.thumbIndex = 0;
         m_state.pass = PassState::Pass::None;
-        m_context.ports.status(
-            QCoreApplication::translate("moravel", "Double-click any thumbnail to set as desktop."));
+        m_context.ports.status(QCoreApplication::translate(
+            "moravel", "Double-click any thumbnail to set as desktop."));
         return;
     }
     m_state.pass = PassState::Pass::Pictures;
@@ -42,7 +41,8 @@ void PicturePass::loadNextPic()
     m_state.currentLongSource = cell.longSourceName();
     const bool wanted = cell.thumbPath() != ThumbView::deletedMark() && !cell.isHidden();
     // A picture that just failed is tried again in the next hour's pass, not at every round.
-    if (wanted && !m_downloads.hasFailed(m_context.links.picLinkToPath(cell.picPath(), false, false)))
+    if (wanted
+        && !m_downloads.hasFailed(m_context.links.picLinkToPath(cell.picPath(), false, false)))
         m_downloads.largePicFilePathForThumb(cell);
     ++m_state.thumbIndex;
     loop.schedule(StepSeconds, [this] { loadNextPic(); });

@@ -9,11 +9,13 @@ namespace moravel {
 
 /// After the thumbnails: downloads the missing large pictures of the cells that are shown, one cell a
 /// step. A finished download makes a step of its own, so that every cell gets its turn.
-class PicturePass {
+class PicturePass
+{
 public:
     PicturePass(const ServiceContext &context, PassState &state, ConnectionQueue &queue);
 
     void loadNextPic();
+
     Downloads &downloads() { return m_downloads; }
 
 private:

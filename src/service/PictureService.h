@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "service/PicturePass.h"
 #include "service/PictureData.h"
+#include "service/PicturePass.h"
 #include "service/SourceList.h"
 #include "service/ThumbDisplay.h"
 #include "service/ThumbPass.h"
@@ -10,12 +10,15 @@
 namespace moravel {
 
 /// The service client: builds its parts and ties them together.
-class PictureService {
+class PictureService
+{
 public:
     PictureService(const ServiceContext &context, const QString &baseUrl);
 
     SourceList &sources() { return m_sources; }
+
     ThumbPass &thumbPass() { return m_thumbPass; }
+
     Downloads &downloads() { return m_picturePass.downloads(); }
 
     void refreshDataForThumb(ThumbView &cell) { m_thumbPass.refreshDataForThumb(cell, m_urls); }

@@ -14,7 +14,8 @@
 namespace moravel {
 
 /// What the service client works with; lent for its whole life.
-struct ServiceContext {
+struct ServiceContext
+{
     Platform &platform;
     const Dates &dates;
     DatePicker &datePicker;

@@ -9,7 +9,8 @@
 namespace moravel {
 
 /// The large picture window as the downloads see it.
-class LargePicPort {
+class LargePicPort
+{
 public:
     virtual ~LargePicPort() = default;
 
@@ -27,7 +28,8 @@ public:
 };
 
 /// What the service client needs of its neighbours. What is empty is not there.
-struct ServicePorts {
+struct ServicePorts
+{
     std::function<void(const QString &)> showStatus;
     std::function<QString()> currentDesktopPath;
     /// Changes the desktop because the picture of the desktop is being fetched anew.

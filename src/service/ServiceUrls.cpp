@@ -14,14 +14,14 @@ const QLatin1String Refresh("&refresh=true");
 
 } // namespace
 
-ServiceUrls::ServiceUrls(QString base)
-    : m_base(std::move(base))
-{
-}
+ServiceUrls::ServiceUrls(QString base) : m_base(std::move(base))
+{ }
 
-QString ServiceUrls::query(const QString &option, const QString &shortSource, const QString &day) const
+QString ServiceUrls::query(const QString &option, const QString &shortSource,
+                           const QString &day) const
 {
-    return m_base + u"/defs/moravel.irev?option=" + option + u"&source=" + shortSource + u"&date=" + day;
+    return m_base + u"/defs/moravel.irev?option=" + option + u"&source=" + shortSource + u"&date="
+        + day;
 }
 
 QString ServiceUrls::sources() const

@@ -6,12 +6,14 @@
 namespace moravel {
 
 /// The addresses of the picture-of-the-day service. Days are Short dates ("7/4/2011").
-class ServiceUrls {
+class ServiceUrls
+{
 public:
     /// @p base is an absolute http URL without a trailing slash.
     explicit ServiceUrls(QString base);
 
     QString base() const { return m_base; }
+
     QString sources() const;
     /// All data of a picture; the day's slashes are escaped, since this query becomes a form body.
     QString all(const QString &shortSource, const QString &day) const;

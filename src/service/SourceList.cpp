@@ -22,12 +22,8 @@ SourceNames parseSources(const QString &text)
 }
 
 SourceList::SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders)
-    : m_fetch(fetch)
-    , m_urls(std::move(urls))
-    , m_files(files)
-    , m_folders(folders)
-{
-}
+    : m_fetch(fetch), m_urls(std::move(urls)), m_files(files), m_folders(folders)
+{ }
 
 void SourceList::getSources(const Then &then)
 {
@@ -67,7 +63,8 @@ QString SourceList::readSourcesData() const
         return {};
     }
     const std::string_view bytes = (*file)->bytes();
-    return decodedUtf8(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size()))).value_or(QString());
+    return decodedUtf8(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())))
+        .value_or(QString());
 }
 
 } // namespace moravel

@@ -20,7 +20,8 @@ using SourceNames = QMap<QString, QString>;
 SourceNames parseSources(const QString &text);
 
 /// The sources that the service knows, asked for once and kept in a file for starts without network.
-class SourceList {
+class SourceList
+{
 public:
     SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders);
 
@@ -28,6 +29,7 @@ public:
     void getSources(const Then &then);
 
     const SourceNames &sourceNames() const { return m_sourceNames; }
+
     void setSourceNames(SourceNames names) { m_sourceNames = std::move(names); }
 
     void saveSourcesData(const QString &text);

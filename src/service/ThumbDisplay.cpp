@@ -6,7 +6,8 @@
 namespace moravel {
 
 // The cell being shown, the link it had then, the file its picture comes from, and what comes after.
-struct ThumbDisplay::Job {
+struct ThumbDisplay::Job
+{
     QPointer<ThumbView> cell;
     QString link;
     QString path;
@@ -16,12 +17,8 @@ struct ThumbDisplay::Job {
 
 ThumbDisplay::ThumbDisplay(const ServiceContext &context, ConnectionQueue &queue,
                            const HeldFetch &fetch, std::function<void(const Then &)> loadNextThumb)
-    : m_context(context)
-    , m_queue(queue)
-    , m_fetch(fetch)
-    , m_loadNextThumb(std::move(loadNextThumb))
-{
-}
+    : m_context(context), m_queue(queue), m_fetch(fetch), m_loadNextThumb(std::move(loadNextThumb))
+{ }
 
 void ThumbDisplay::displayThumbForSource(const QString &name, const Then &then)
 {
@@ -60,7 +57,8 @@ void ThumbDisplay::fetch(const Job &job)
             });
             return;
         }
-        qCInfo(lcService) << "thumb not fetched:" << job.link.left(200) << result.error().description;
+        qCInfo(lcService) << "thumb not fetched:" << job.link.left(200)
+                          << result.error().description;
         m_queue.endThumbFetch();
         load(job);
     });
@@ -108,8 +106,8 @@ void ThumbDisplay::load(const Job &job)
 
 void ThumbDisplay::loadLargePic(const Job &job)
 {
-    const QString path
-        = job.cell ? m_context.links.picLinkToPath(job.cell->picPath(), false, true) : QString();
+    const QString path =
+        job.cell ? m_context.links.picLinkToPath(job.cell->picPath(), false, true) : QString();
     const QImage blank = m_context.cells.images().blank;
     if (path.isEmpty() || path == job.path) {
         show(job, blank);

@@ -8,7 +8,8 @@
 namespace moravel {
 
 /// Shows the thumbnail of a cell, fetching its file first when it is missing.
-class ThumbDisplay {
+class ThumbDisplay
+{
 public:
     /// Pixels of the box that thumbnails are decoded into: twice the picture area of a cell.
     static constexpr QSize ThumbBox{416, 320};

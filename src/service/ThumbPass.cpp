@@ -7,7 +7,7 @@ namespace moravel {
 
 namespace {
 
-constexpr double HourlyPass = 3600;  // seconds
+constexpr double HourlyPass = 3600; // seconds
 constexpr qint64 ShortestGap = 3540; // a minute less, so that the hourly call always passes
 constexpr qint64 ShortestGapAfterFailure = 120;
 
@@ -20,8 +20,7 @@ ThumbPass::ThumbPass(const ServiceContext &context, PassState &state, Connection
     , m_queue(queue)
     , m_data(data)
     , m_loadNextPic(std::move(loadNextPic))
-{
-}
+{ }
 
 void ThumbPass::restart(double seconds)
 {

@@ -9,7 +9,8 @@
 namespace moravel {
 
 /// Fills the cells for the chosen date, one after the other, and starts again every hour.
-class ThumbPass {
+class ThumbPass
+{
 public:
     /// @p loadNextPic starts the large-picture pass, a second after this pass has ended.
     ThumbPass(const ServiceContext &context, PassState &state, ConnectionQueue &queue,

@@ -6,10 +6,8 @@
 namespace moravel {
 
 ThumbCells::ThumbCells(ThumbImages images, ThumbCommands commands)
-    : m_images(std::move(images))
-    , m_commands(std::move(commands))
-{
-}
+    : m_images(std::move(images)), m_commands(std::move(commands))
+{ }
 
 void ThumbCells::createSpecialCells(const QDateTime &now)
 {
@@ -26,8 +24,8 @@ void ThumbCells::createSpecialCells(const QDateTime &now)
 ThumbView &ThumbCells::addThumbView(const QString &longName, const QString &shortName,
                                     const QDateTime &now)
 {
-    auto cell
-        = std::make_unique<ThumbView>(ThumbView::GridTag + count(), m_images, m_commands, now);
+    auto cell =
+        std::make_unique<ThumbView>(ThumbView::GridTag + count(), m_images, m_commands, now);
     ThumbButtons buttons = cell->buttons();
     buttons.newDesktopBtn = false;
     cell->setButtons(buttons);
@@ -41,7 +39,8 @@ int ThumbCells::visibleThumbs() const
                                           [](const auto &cell) { return !cell->isHidden(); }));
 }
 
-template <typename Test> ThumbView *ThumbCells::first(Test test) const
+template <typename Test>
+ThumbView *ThumbCells::first(Test test) const
 {
     const auto it = std::find_if(m_thumbViews.begin(), m_thumbViews.end(),
                                  [&](const auto &cell) { return test(*cell); });

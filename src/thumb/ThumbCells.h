@@ -10,7 +10,8 @@ namespace moravel {
 
 /// All cells: those of the grid in grid order, the current-desktop cell of the side bar, and the browser
 /// cell that is never on screen. Cells live as long as this object.
-class ThumbCells {
+class ThumbCells
+{
 public:
     ThumbCells(ThumbImages images, ThumbCommands commands);
 
@@ -18,13 +19,19 @@ public:
     void createSpecialCells(const QDateTime &now);
 
     /// Appends a grid cell with the next tag.
-    ThumbView &addThumbView(const QString &longName, const QString &shortName, const QDateTime &now);
+    ThumbView &addThumbView(const QString &longName, const QString &shortName,
+                            const QDateTime &now);
 
     const std::vector<std::unique_ptr<ThumbView>> &thumbViews() const { return m_thumbViews; }
+
     int count() const { return static_cast<int>(m_thumbViews.size()); }
+
     ThumbView &at(int index) const { return *m_thumbViews.at(static_cast<std::size_t>(index)); }
+
     ThumbView &desktopThumb() const { return *m_desktopThumb; }
+
     ThumbView &browserThumb() const { return *m_browserThumb; }
+
     const ThumbImages &images() const { return m_images; }
 
     /// Number of grid cells that are not hidden.
@@ -40,7 +47,8 @@ public:
     bool currentDesktopShowingInThumbs() const;
 
 private:
-    template <typename Test> ThumbView *first(Test test) const;
+    template <typename Test>
+    ThumbView *first(Test test) const;
 
     ThumbImages m_images;
     ThumbCommands m_commands;

@@ -17,12 +17,8 @@ void call(const std::function<void(ThumbView &)> &command, ThumbView &cell)
 
 ThumbView::ThumbView(int tag, const ThumbImages &images, const ThumbCommands &commands,
                      const QDateTime &created)
-    : m_images(images)
-    , m_commands(commands)
-    , m_tag(tag)
-    , m_startCheckDate(created)
-{
-}
+    : m_images(images), m_commands(commands), m_tag(tag), m_startCheckDate(created)
+{ }
 
 void ThumbView::showSource(const QString &longName, const QString &shortName)
 {
@@ -169,9 +165,9 @@ QString ThumbView::description() const
 {
     const QString used = m_usedAsDesktop ? QStringLiteral("Has been used as desktop")
                                          : QStringLiteral("Not used as desktop");
-    return QStringLiteral("%1: ").arg(m_tag) + m_longSourceName + u" (" + m_shortSourceName + u") - "
-        + m_dateString + u'\n' + m_thumbPath + u'\n' + m_picPath + u'\n' + m_parentPath + u'\n'
-        + m_captionString + u'\n' + used;
+    return QStringLiteral("%1: ").arg(m_tag) + m_longSourceName + u" (" + m_shortSourceName
+        + u") - " + m_dateString + u'\n' + m_thumbPath + u'\n' + m_picPath + u'\n' + m_parentPath
+        + u'\n' + m_captionString + u'\n' + used;
 }
 
 QString ThumbView::debugInfo() const

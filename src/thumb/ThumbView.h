@@ -13,15 +13,17 @@ namespace moravel {
 class ThumbView;
 
 /// The application's own pictures that a cell can show.
-struct ThumbImages {
-    QImage blank;    ///< No picture yet.
+struct ThumbImages
+{
+    QImage blank; ///< No picture yet.
     QImage trashcan; ///< Picture deleted.
-    QImage prefs;    ///< Desktop that the program did not set.
+    QImage prefs; ///< Desktop that the program did not set.
 };
 
 /// What a cell forwards to the controller. A command that is not there is not offered: its button stays
 /// hidden and its gesture does nothing.
-struct ThumbCommands {
+struct ThumbCommands
+{
     std::function<void(ThumbView &)> setAsDesktop;
     std::function<void(ThumbView &)> showLargePic;
     std::function<void(ThumbView &)> showInFinder;
@@ -33,7 +35,8 @@ struct ThumbCommands {
 };
 
 /// Tool tips of the controls of a cell; empty when hidden.
-struct ThumbToolTips {
+struct ThumbToolTips
+{
     QString deleteBtn;
     QString newDesktopBtn;
     QString prevDesktopBtn;
@@ -43,7 +46,8 @@ struct ThumbToolTips {
 };
 
 /// Which buttons of a cell are shown.
-struct ThumbButtons {
+struct ThumbButtons
+{
     bool deleteBtn = true;
     bool newDesktopBtn = true;
     bool prevDesktopBtn = true;
@@ -54,7 +58,8 @@ struct ThumbButtons {
 
 /// The state of one cell of the main window: the picture of one source on one date. It shows what it is
 /// given (a widget follows changed()) and forwards what the user does. Main thread only.
-class ThumbView : public QObject {
+class ThumbView : public QObject
+{
     Q_OBJECT
 
 public:
@@ -107,34 +112,59 @@ public:
     // Fields -------------------------------------------------------------------------------------
 
     int tag() const { return m_tag; }
+
     QString sourceField() const { return m_longSourceName; }
+
     QString dateField() const { return m_dateString; }
+
     QString captionField() const { return m_captionField; }
+
     QImage imageView() const { return m_image; }
+
     bool isSpinning() const { return m_spinning; }
+
     bool isHidden() const { return m_hidden; }
+
     ThumbButtons buttons() const { return m_buttons; }
+
     const ThumbToolTips &toolTips() const { return m_toolTips; }
+
     const ThumbCommands &commands() const { return m_commands; }
+
     const ThumbImages &images() const { return m_images; }
 
     QString shortSourceName() const { return m_shortSourceName; }
+
     QString longSourceName() const { return m_longSourceName; }
+
     QString dateString() const { return m_dateString; }
+
     QString captionString() const { return m_captionString; }
+
     QString infoString() const { return m_infoString; }
+
     QString thumbPath() const { return m_thumbPath; }
+
     QString picPath() const { return m_picPath; }
+
     QString parentPath() const { return m_parentPath; }
+
     bool usedAsDesktop() const { return m_usedAsDesktop; }
+
     QDateTime startCheckDate() const { return m_startCheckDate; }
 
     void setDateString(const QString &date) { m_dateString = date; }
+
     void setInfoString(const QString &info) { m_infoString = info; }
+
     void setThumbPath(const QString &path);
+
     void setPicPath(const QString &path) { m_picPath = path; }
+
     void setParentPath(const QString &path) { m_parentPath = path; }
+
     void setUsedAsDesktop(bool used) { m_usedAsDesktop = used; }
+
     void setStartCheckDate(const QDateTime &date) { m_startCheckDate = date; }
 
 Q_SIGNALS:

@@ -3,21 +3,23 @@
 
 namespace moravel::testing {
 
-struct FakeHttp::Pending {
+struct FakeHttp::Pending
+{
     HttpRequest request;
     HttpHandlers handlers;
     std::function<void(FetchResult)> done;
     bool cancelled = false;
 };
 
-class FakeHttp::Call : public HttpCall {
+class FakeHttp::Call : public HttpCall
+{
 public:
     Call(FakeHttp &http, std::shared_ptr<Pending> pending)
-        : m_http(http)
-        , m_pending(std::move(pending))
+        : m_http(http), m_pending(std::move(pending))
     {
         m_http.mostInFlight = std::max(m_http.mostInFlight, ++m_http.inFlight);
     }
+
     ~Call() override
     {
         m_pending->cancelled = true;
@@ -57,7 +59,8 @@ void FakeHttp::hand(Pending &pending, const Answer &given)
 {
     const bool bad = !given.failure.isEmpty() || given.status >= 400;
     const HttpError error{given.status >= 400 ? given.status : 0,
-                          bad && given.failure.isEmpty() ? QStringLiteral("bad status") : given.failure};
+                          bad && given.failure.isEmpty() ? QStringLiteral("bad status")
+                                                         : given.failure};
     if (pending.done) {
         pending.done(bad ? FetchResult(tl::unexpect, error) : FetchResult(given.body));
         return;
@@ -81,8 +84,8 @@ bool FakeHttp::deliver()
     bool delivered = false;
     for (auto it = m_pending.begin(); it != m_pending.end();) {
         const std::shared_ptr<Pending> pending = *it;
-        const std::optional<Answer> given
-            = pending->cancelled ? std::nullopt : answer(pending->request);
+        const std::optional<Answer> given =
+            pending->cancelled ? std::nullopt : answer(pending->request);
         if (!pending->cancelled && !given) {
             ++it;
             continue;

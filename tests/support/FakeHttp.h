@@ -10,20 +10,22 @@
 namespace moravel::testing {
 
 /// An HTTP client whose answers a test gives. Nothing is delivered from within a request.
-class FakeHttp : public HttpClient {
+class FakeHttp : public HttpClient
+{
 public:
-    struct Answer {
+    struct Answer
+    {
         QByteArray body;
         int status = 200;
         qint64 expectedLength = -2; ///< -2: the true length.
-        QString failure;            ///< Not empty: the request fails with this description.
+        QString failure; ///< Not empty: the request fails with this description.
     };
 
     /// Answers a request; nothing lets it hang.
     std::function<std::optional<Answer>(const HttpRequest &)> answer;
 
     QList<HttpRequest> requests; ///< All that were sent.
-    int inFlight = 0;            ///< Requests of start() under way.
+    int inFlight = 0; ///< Requests of start() under way.
     int mostInFlight = 0;
 
     HttpCallHandle start(const HttpRequest &request, HttpHandlers handlers) override;

@@ -10,7 +10,8 @@
 namespace moravel::testing {
 
 /// Images whose files are pictures when they begin with "IMG". Results come at deliver().
-class FakeImages : public Images {
+class FakeImages : public Images
+{
 public:
     void load(const QString &path, QSize, std::function<void(QImage)> done) override
     {
@@ -20,14 +21,18 @@ public:
             done(ok ? image : QImage());
         });
     }
+
     void check(const QString &path, std::function<void(QSize)> done) override
     {
         m_waiting.push_back([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
     }
+
     bool isImageExtension(const QString &extension) const override
     {
-        return QStringList{QStringLiteral("jpg"), QStringLiteral("png")}.contains(extension.toLower());
+        return QStringList{QStringLiteral("jpg"), QStringLiteral("png")}.contains(
+            extension.toLower());
     }
+
     QImage resource(const QString &) const override
     {
         QImage image(2, 2, QImage::Format_RGB32);
@@ -52,6 +57,7 @@ private:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) && file.read(3) == "IMG";
     }
+
     std::deque<std::function<void()>> m_waiting;
 };
 

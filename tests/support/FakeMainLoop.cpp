@@ -6,7 +6,8 @@
 
 namespace moravel::testing {
 
-struct FakeMainLoop::Call {
+struct FakeMainLoop::Call
+{
     qint64 due = 0;
     quint64 order = 0;
     qint64 interval = 0;
@@ -14,34 +15,30 @@ struct FakeMainLoop::Call {
     std::function<void()> fn;
 };
 
-class FakeMainLoop::Handle : public DelayedCall {
+class FakeMainLoop::Handle : public DelayedCall
+{
 public:
-    explicit Handle(std::shared_ptr<Call> call)
-        : m_call(std::move(call))
-    {
-    }
+    explicit Handle(std::shared_ptr<Call> call) : m_call(std::move(call)) { }
+
     ~Handle() override { m_call->cancelled = true; }
 
 private:
     std::shared_ptr<Call> m_call;
 };
 
-class FakeMainLoop::Hold : public LoopHold {
+class FakeMainLoop::Hold : public LoopHold
+{
 public:
-    explicit Hold(FakeMainLoop &loop)
-        : m_loop(loop)
-    {
-    }
+    explicit Hold(FakeMainLoop &loop) : m_loop(loop) { }
+
     ~Hold() override { m_loop.release(); }
 
 private:
     FakeMainLoop &m_loop;
 };
 
-FakeMainLoop::FakeMainLoop(const QDateTime &start)
-    : m_start(start)
-{
-}
+FakeMainLoop::FakeMainLoop(const QDateTime &start) : m_start(start)
+{ }
 
 FakeMainLoop::~FakeMainLoop() = default;
 
@@ -104,9 +101,10 @@ void FakeMainLoop::inOrder(std::function<void()> fn)
 bool FakeMainLoop::fireNext(qint64 until)
 {
     m_calls.remove_if([](const auto &call) { return call->cancelled; });
-    const auto next = std::min_element(m_calls.begin(), m_calls.end(), [](const auto &a, const auto &b) {
-        return std::pair(a->due, a->order) < std::pair(b->due, b->order);
-    });
+    const auto next =
+        std::min_element(m_calls.begin(), m_calls.end(), [](const auto &a, const auto &b) {
+            return std::pair(a->due, a->order) < std::pair(b->due, b->order);
+        });
     if (m_holds > 0 || next == m_calls.end() || (*next)->due > until)
         return false;
     const std::shared_ptr<Call> call = *next;

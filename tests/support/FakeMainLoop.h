@@ -9,7 +9,8 @@
 namespace moravel::testing {
 
 /// A main loop on a virtual clock: a day passes in milliseconds, calls fire in due order.
-class FakeMainLoop : public MainLoop {
+class FakeMainLoop : public MainLoop
+{
 public:
     explicit FakeMainLoop(const QDateTime &start = QDateTime(QDate(2011, 7, 4), QTime(9, 30)));
     ~FakeMainLoop() override;
@@ -28,6 +29,7 @@ public:
     void settle() { advance(0); }
 
     bool isHeld() const { return m_holds > 0; }
+
     std::size_t pending() const { return m_calls.size(); }
 
 private:

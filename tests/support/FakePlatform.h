@@ -12,30 +12,47 @@
 
 namespace moravel::testing {
 
-class FakeAlerts : public Alerts {
+class FakeAlerts : public Alerts
+{
 public:
-    struct Shown {
+    struct Shown
+    {
         QString title;
         QString text;
     };
+
     void alert(const QString &title, const QString &text) override { shown.append({title, text}); }
+
     QList<Shown> shown;
 };
 
-class FakeDefaults : public Defaults {
+class FakeDefaults : public Defaults
+{
 public:
-    std::optional<QStringList> list(const QString &key) const override { return read<QStringList>(key); }
+    std::optional<QStringList> list(const QString &key) const override
+    {
+        return read<QStringList>(key);
+    }
+
     std::optional<qint64> integer(const QString &key) const override { return read<qint64>(key); }
+
     std::optional<float> number(const QString &key) const override { return read<float>(key); }
+
     std::optional<bool> boolean(const QString &key) const override { return read<bool>(key); }
+
     void setList(const QString &key, const QStringList &value) override { values[key] = value; }
+
     void setInteger(const QString &key, qint64 value) override { values[key] = value; }
+
     void setNumber(const QString &key, float value) override { values[key] = value; }
+
     void setBoolean(const QString &key, bool value) override { values[key] = value; }
+
     QHash<QString, QVariant> values;
 
 private:
-    template <typename T> std::optional<T> read(const QString &key) const
+    template <typename T>
+    std::optional<T> read(const QString &key) const
     {
         const auto it = values.find(key);
         if (it == values.end() || !it->canConvert<T>())
@@ -44,12 +61,11 @@ private:
     }
 };
 
-class FakeRandom : public Random {
+class FakeRandom : public Random
+{
 public:
-    std::uint32_t next() override
-    {
-        return numbers.isEmpty() ? 0 : numbers.takeFirst();
-    }
+    std::uint32_t next() override { return numbers.isEmpty() ? 0 : numbers.takeFirst(); }
+
     QList<std::uint32_t> numbers;
 };
 

@@ -7,7 +7,8 @@
 namespace moravel::testing {
 
 /// A private folder that goes with the object; for tests that touch the disk.
-class TempHome {
+class TempHome
+{
 public:
     TempHome();
 

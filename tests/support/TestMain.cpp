@@ -22,7 +22,8 @@ QList<QString> &expectedWarnings()
 
 void onMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    std::fprintf(stderr, "%s: %s\n", context.category ? context.category : "", qUtf8Printable(text));
+    std::fprintf(stderr, "%s: %s\n", context.category ? context.category : "",
+                 qUtf8Printable(text));
     if (type == QtDebugMsg || type == QtInfoMsg)
         return;
     if (type == QtFatalMsg)
@@ -34,7 +35,8 @@ void onMessage(QtMsgType type, const QMessageLogContext &context, const QString 
     ADD_FAILURE() << "unexpected warning: " << qPrintable(text);
 }
 
-class ForgetWarnings : public testing::EmptyTestEventListener {
+class ForgetWarnings : public testing::EmptyTestEventListener
+{
     void OnTestEnd(const testing::TestInfo &) override { expectedWarnings().clear(); }
 };
 
