@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "text/Captions.h"
+
+#include "text/HTMLText.h"
+
+#include <QLoggingCategory>
+
+#include <cstdint>
+#include <unicode/brkiter.h>
+#include <unicode/casemap.h>
+#include <unicode/stringoptions.h>
+
+namespace moravel {
+namespace {
+
+Q_LOGGING_CATEGORY(lcText, "moravel.text")
+
+// Finding the words of some scripts takes ICU a microsecond a letter. No honest caption is longer
+// than this, and a hostile one must not hold up the window.
+constexpr qsizetype longestCapitalised = 16'384;
+
+// The first letter of each word in title case, the rest in lower case; \a text itself if ICU has no
+// data.
+QString capitalised(const QString &text)
+{
+    QString result(2 * text.size() + 16, Qt::Uninitialized); // "İ" takes two units in lower case
+    UErrorCode error = U_ZERO_ERROR;
+    const auto length = icu::CaseMap::toTitle(
+        "", U_TITLECASE_ADJUST_TO_CASED, nullptr, reinterpret_cast<const char16_t *>(text.utf16()),
+        static_cast<std::int32_t>(text.size()), reinterpret_cast<char16_t *>(result.data()),
+        static_cast<std::int32_t>(result.size()), nullptr, error);
+    if (U_FAILURE(error)) {
+        qCWarning(lcText, "Cannot capitalise a caption: %s", u_errorName(error));
+        return text;
+    }
+    result.truncate(length);
+    return result;
+}
+
+bool isAllCapitals(const QString &text)
+{
+    return text == text.toUpper();
+}
+
+} // namespace
+
+QString normalisedCaption(QStringView caption)
+{
+    QString text = stringByDecodingHTMLEntities(caption);
+    text.replace(u'_', u' ');
+    if (text.size() > longestCapitalised || !isAllCapitals(text))
+        return text;
+    return capitalised(text);
+}
+
+QString captionForCell(QStringView caption)
+{
+    const QString text = normalisedCaption(caption);
+    if (text == u"Deleted.")
+        return QStringLiteral("%1\n\nDouble-click to un-delete.").arg(text);
+    return text;
+}
+
+} // namespace moravel

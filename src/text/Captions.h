@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace moravel {
+
+/// Makes a caption as the service sends it readable: decodes its character references, turns "_"
+/// into a space, and capitalises the words of a caption that equals its own upper-case form. Words
+/// end where Unicode's word boundaries lie, and case is mapped the same in every locale.
+QString normalisedCaption(QStringView caption);
+
+/// What a cell shows for \a caption: the normalised caption, with a hint how to get the picture
+/// back when the caption says "Deleted.".
+QString captionForCell(QStringView caption);
+
+} // namespace moravel
