@@ -20,13 +20,13 @@ ServiceUrls::ServiceUrls(QString base) : m_base(std::move(base))
 QString ServiceUrls::query(const QString &option, const QString &shortSource,
                            const QString &day) const
 {
-    return m_base + u"/defs/moravel.irev?option=" + option + u"&source=" + shortSource + u"&date="
-        + day;
+    return QStringLiteral("%1/defs/moravel.irev?option=%2&source=%3&date=%4")
+        .arg(m_base, option, shortSource, day);
 }
 
 QString ServiceUrls::sources() const
 {
-    return m_base + u"/defs/getSources.irev";
+    return m_base + QLatin1String("/defs/getSources.irev");
 }
 
 QString ServiceUrls::all(const QString &shortSource, const QString &day) const

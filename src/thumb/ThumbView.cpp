@@ -35,7 +35,7 @@ void ThumbView::showDate(const QString &localDate)
 
 void ThumbView::showCaption(const QString &caption)
 {
-    m_captionString = normalisedCaption(caption);
+    m_captionString = captionForCell(caption);
     setCaptionField(m_captionString);
 }
 
@@ -163,17 +163,22 @@ void ThumbView::refreshData()
 
 QString ThumbView::description() const
 {
-    const QString used = m_usedAsDesktop ? QStringLiteral("Has been used as desktop")
-                                         : QStringLiteral("Not used as desktop");
-    return QStringLiteral("%1: ").arg(m_tag) + m_longSourceName + u" (" + m_shortSourceName
-        + u") - " + m_dateString + u'\n' + m_thumbPath + u'\n' + m_picPath + u'\n' + m_parentPath
-        + u'\n' + m_captionString + u'\n' + used;
+    const QStringList lines{
+        QStringLiteral("%1: %2 (%3) - %4")
+            .arg(QString::number(m_tag), m_longSourceName, m_shortSourceName, m_dateString),
+        m_thumbPath,
+        m_picPath,
+        m_parentPath,
+        m_captionString,
+        m_usedAsDesktop ? QStringLiteral("Has been used as desktop")
+                        : QStringLiteral("Not used as desktop")};
+    return lines.join(u'\n');
 }
 
 QString ThumbView::debugInfo() const
 {
-    return m_longSourceName + u" - " + m_dateString + u"\n\t" + m_thumbPath + u"\n\t" + m_picPath
-        + u"\n\t" + m_parentPath + u'\n';
+    return QStringLiteral("%1 - %2\n\t%3\n\t%4\n\t%5\n")
+        .arg(m_longSourceName, m_dateString, m_thumbPath, m_picPath, m_parentPath);
 }
 
 } // namespace moravel

@@ -33,7 +33,7 @@ TEST(Pass, fillsEveryCellAndKeepsEverything)
         EXPECT_FALSE(cell.isSpinning());
         const QString name = Three[i] + QStringLiteral("-7-4-2011.jpg");
         EXPECT_EQ(TempHome::read(w.pictureFolder() + name), "IMG picture bytes");
-        EXPECT_EQ(TempHome::read(w.pictureFolder() + u"thumbs/thumb-" + name), "IMG picture bytes");
+        EXPECT_EQ(TempHome::read(w.pictureFolder() + QLatin1String("thumbs/thumb-") + name), "IMG picture bytes");
     }
     EXPECT_EQ(w.records().size(), 3);
     EXPECT_EQ(w.records()[0], QStringLiteral("20110704\tA\thttp://pic/thumb-A-7-4-2011.jpg\thttp://pic/A-7-4-2011.jpg\t"

@@ -58,7 +58,7 @@ World::World(const QDateTime &start)
 void World::addSources(const QStringList &shortNames)
 {
     for (const QString &name : shortNames)
-        cells.addThumbView(u"Long " + name, name, loop.now());
+        cells.addThumbView(QLatin1String("Long ") + name, name, loop.now());
 }
 
 void World::startPass(double seconds)

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+#include <optional>
+#include <tl/expected.hpp>
+
+namespace moravel {
+
+/// What the command line asks for.
+struct Options {
+    enum class Action { Run, PrintVersion, PrintHelp };
+
+    Action action = Action::Run;
+    /// Sources to switch on, by long name; one entry "all" means every source.
+    std::optional<QStringList> sources;
+};
+
+/// Reads the arguments (without the program's name). The error is one line for standard error.
+tl::expected<Options, QString> parseOptions(const QStringList &arguments);
+
+/// Text of --help.
+QString helpText();
+
+} // namespace moravel
