@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "server/app/CommandLine.h"
+#include "server/app/ComputedSources.h"
+#include "server/core/ComputedPictures.h"
+#include "server/core/Service.h"
+#include "server/http/HttpServer.h"
+#include "server/sources/folder/FolderSource.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include <csignal>
+#include <cstdio>
+#include <future>
+#include <thread>
+#include <unistd.h>
+
+using namespace moravel::server;
+
+namespace {
+
+/// Answers in progress at the end get this long; a slow client must not hold the machine's shutdown
+/// up.
+constexpr auto graceAtEnd = std::chrono::seconds(4);
+
+int fail(const QString &text, int status)
+{
+    std::fputs(qPrintable(text), status == 0 ? stdout : stderr);
+    return status;
+}
+
+/// The signals that end the program are blocked in all threads and taken by main() alone.
+sigset_t blockEndSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGTERM);
+    sigaddset(&signals, SIGINT);
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    return signals;
+}
+
+/// Adds all sources that the configuration wants; the error names one that cannot be.
+tl::expected<void, QString> addSources(SourceList &list, const Config &config, RenderCache &cache)
+{
+    QHash<QString, bool> switches = config.computedSources;
+    for (auto &source : computedSources()) {
+        if (switches.take(source->shortName())
+            || !config.computedSources.contains(source->shortName()))
+            list.add(std::make_unique<ComputedPictures>(std::move(source), cache));
+    }
+    if (!switches.isEmpty())
+        return tl::unexpected(QStringLiteral("\"computedSources\": there is no \"%1\"")
+                                  .arg(switches.keys().constFirst()));
+    for (const FolderSetup &folder : config.folderSources) {
+        if (!list.add(std::make_unique<FolderSource>(folder, cache)))
+            return tl::unexpected(
+                QStringLiteral("the short name \"%1\" is used twice").arg(folder.shortName));
+    }
+    return {};
+}
+
+QString hostFor(const QString &address, int port)
+{
+    // Links to "any address" would lead nowhere.
+    const QString host = address == u"0.0.0.0" ? QStringLiteral("127.0.0.1")
+        : address == u"::"                     ? QStringLiteral("::1")
+                                               : address;
+    return (host.contains(u':') ? QStringLiteral("[%1]:%2") : QStringLiteral("%1:%2"))
+        .arg(host)
+        .arg(port);
+}
+
+int serve(HttpServer &server, RenderCache &cache, const sigset_t &signals)
+{
+    std::promise<bool> ended;
+    std::thread serving([&] {
+        ended.set_value(server.run());
+        ::kill(::getpid(), SIGTERM); // Wakes main() when the service ended by itself.
+    });
+    int received = 0;
+    sigwait(&signals, &received);
+    cache.stop();
+    server.stop();
+    auto end = ended.get_future();
+    if (end.wait_for(graceAtEnd) != std::future_status::ready)
+        ::_exit(0);
+    serving.join();
+    return end.get() ? 0
+                     : fail(QStringLiteral("moravel-service: the listening socket failed\n"), 1);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const sigset_t signals = blockEndSignals();
+    std::signal(SIGPIPE, SIG_IGN);
+    const QCoreApplication app(argc, argv); // Finds the plugins for picture formats.
+    const auto config = readCommandLine(QCoreApplication::arguments());
+    if (!config)
+        return fail(config.error().text, config.error().status);
+    RenderCache cache(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
+                          + QLatin1StringView("/moravel-service"),
+                      config->cacheBytes);
+    SourceList sources;
+    if (const auto added = addSources(sources, *config, cache); !added)
+        return fail(QStringLiteral("moravel-service: %1\n").arg(added.error()), 2);
+    Service service(sources, {config->newsFile, {}, {}});
+    HttpServer server([&](const Request &request) { return service.handle(request); });
+    const auto port = server.bind(config->bind, config->port);
+    if (!port)
+        return fail(QStringLiteral("moravel-service: %1\n").arg(port.error()), 1);
+    const QString host = hostFor(config->bind, *port);
+    service.setBoundHost(host.toLatin1());
+    std::printf("moravel-service: listening on http://%s/potd\n", qPrintable(host));
+    std::fflush(stdout);
+    return serve(server, cache, signals);
+}

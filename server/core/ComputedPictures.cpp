@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "server/core/ComputedPictures.h"
+
+#include "server/core/Jpeg.h"
+#include "server/core/Version.h"
+
+namespace moravel::server {
+
+namespace {
+
+/// The size is told before the picture is made, and must be the same each time it is asked for:
+/// clients choose by it which picture to fetch. Three tenths of a byte a pixel is what computed
+/// pictures need.
+double estimatedMegabytes(QSize size)
+{
+    constexpr double bytesPerPixel = 0.3;
+    return size.width() * size.height() * bytesPerPixel / 1e6;
+}
+
+} // namespace
+
+ComputedPictures::ComputedPictures(std::unique_ptr<ComputedSource> source, RenderCache &cache)
+    : m_source(std::move(source)), m_cache(cache)
+{ }
+
+tl::expected<DayPicture, Unavailable> ComputedPictures::describe(QDate date) const
+{
+    const DayText text = m_source->text(date);
+    const QSize size = sizeOf(PictureKind::Full);
+    return DayPicture{text.caption,
+                      text.info,
+                      m_source->credit(),
+                      size,
+                      estimatedMegabytes(size),
+                      QStringLiteral("3840x2160.jpg")};
+}
+
+tl::expected<Content, Unavailable> ComputedPictures::picture(QDate date, PictureKind kind) const
+{
+    return m_cache.picture(cacheName(shortName(), date, kind, versionText()),
+                           [&] { return encodedJpeg(m_source->render(date, sizeOf(kind)), kind); });
+}
+
+} // namespace moravel::server

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "server/core/RenderCache.h"
+#include "server/sources/ComputedSource.h"
+
+namespace moravel::server {
+
+/// Serves a computed source through the cache.
+class ComputedPictures : public PictureSource
+{
+public:
+    /// @p cache must outlive this object.
+    ComputedPictures(std::unique_ptr<ComputedSource> source, RenderCache &cache);
+
+    QString shortName() const override { return m_source->shortName(); }
+
+    QString longName() const override { return m_source->longName(); }
+
+    tl::expected<DayPicture, Unavailable> describe(QDate date) const override;
+    tl::expected<Content, Unavailable> picture(QDate date, PictureKind kind) const override;
+
+private:
+    const std::unique_ptr<ComputedSource> m_source;
+    RenderCache &m_cache;
+};
+
+} // namespace moravel::server

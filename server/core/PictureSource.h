@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "server/core/Messages.h"
+
+#include <QDate>
+#include <QSize>
+#include <QString>
+
+#include <tl/expected.hpp>
+
+namespace moravel::server {
+
+/// Why a source has no picture to give.
+enum class Reason {
+    NoSuchSource,
+    OutOfRange, ///< A day before the first or after the last that can be asked for.
+    NotAPicture, ///< There is something that day, but no picture.
+    NothingThatDay,
+    NotYetPublished,
+    RateLimited,
+    SourceDown,
+    Retired,
+    Busy, ///< Too much to do here; asking again soon helps.
+};
+
+struct Unavailable
+{
+    Reason reason = Reason::NothingThatDay;
+    QString message; ///< One sentence for people.
+    int retryAfter = 0; ///< Seconds after which asking again makes sense; 0 when unknown.
+};
+
+/// What is known of a day's picture without making it. Texts are plain, one line each.
+struct DayPicture
+{
+    QString caption;
+    QString info;
+    QString credit;
+    QSize fullSize; ///< Pixels.
+    double fullMegabytes =
+        0; ///< Size of the full-size file in millions of bytes, real or estimated.
+    QString fullSuffix; ///< End of the full-size file's name, for example "3840x2160.jpg".
+    bool isFinal = true; ///< The bytes of this day never change.
+};
+
+enum class PictureKind { Thumb, Normal, Full };
+
+/// Sizes of the pictures that are made here, in pixels; Full only where there is no original.
+constexpr QSize sizeOf(PictureKind kind)
+{
+    switch (kind) {
+    case PictureKind::Thumb:
+        return {400, 225};
+    case PictureKind::Normal:
+        return {1920, 1080};
+    case PictureKind::Full:
+        break;
+    }
+    return {3840, 2160};
+}
+
+/// A source of one picture a day. All functions may be called from several threads at once.
+class PictureSource
+{
+public:
+    virtual ~PictureSource() = default;
+
+    virtual QString shortName() const = 0; ///< Identifier in requests: ASCII letters, at most 32.
+    virtual QString longName() const = 0; ///< Display name.
+
+    /// Tells of the picture of @p date; must be quick.
+    virtual tl::expected<DayPicture, Unavailable> describe(QDate date) const = 0;
+
+    /// Gives the picture itself; may take seconds.
+    virtual tl::expected<Content, Unavailable> picture(QDate date, PictureKind kind) const = 0;
+};
+
+} // namespace moravel::server

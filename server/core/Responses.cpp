@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "server/core/Responses.h"
+
+#include <QCryptographicHash>
+#include <QLocale>
+
+#include <algorithm>
+
+namespace moravel::server {
+
+namespace {
+
+QByteArray entityTag(const Content &content)
+{
+    if (!content.file)
+        return '"' + QCryptographicHash::hash(content.bytes, QCryptographicHash::Sha1).toHex()
+            + '"';
+    return '"' + QByteArray::number(content.file->size(), 16) + '-'
+        + QByteArray::number(content.modified.toMSecsSinceEpoch(), 16) + '"';
+}
+
+bool namesTag(const QByteArray &ifNoneMatch, const QByteArray &tag)
+{
+    const QList<QByteArray> parts = ifNoneMatch.split(',');
+    return std::any_of(parts.begin(), parts.end(), [&](const QByteArray &part) {
+        const QByteArray wanted = part.trimmed();
+        return wanted == "*" || wanted == tag || wanted == "W/" + tag;
+    });
+}
+
+/// A date is compared as text: what clients send back is the Last-Modified they were given.
+bool clientHasIt(const Request &request, const Response &response)
+{
+    if (!request.ifNoneMatch.isEmpty())
+        return namesTag(request.ifNoneMatch, response.header("ETag"));
+    return !request.ifModifiedSince.isEmpty()
+        && request.ifModifiedSince == response.header("Last-Modified");
+}
+
+int statusOf(Reason reason)
+{
+    switch (reason) {
+    case Reason::RateLimited:
+    case Reason::SourceDown:
+    case Reason::Busy:
+        return 503;
+    default:
+        return 404;
+    }
+}
+
+} // namespace
+
+Response textResponse(int status, const QString &text)
+{
+    return {status,
+            {text.toUtf8(), nullptr, "text/plain; charset=utf-8", {}},
+            {{"Cache-Control", "no-store"}}};
+}
+
+Response pageResponse(const QByteArray &html)
+{
+    return {200,
+            {html, nullptr, "text/html; charset=utf-8", {}},
+            {{"Cache-Control", "no-cache"},
+             {"Content-Security-Policy",
+              "default-src 'none'; img-src 'self'; style-src 'unsafe-inline'; base-uri 'none'"}}};
+}
+
+Response pictureResponse(const Request &request, Content content, bool isFinal)
+{
+    Response response;
+    response.headers = {
+        {"ETag", entityTag(content)},
+        {"Cache-Control", isFinal ? "public, max-age=31536000, immutable" : "public, max-age=300"}};
+    if (content.modified.isValid()) {
+        const QString form = QStringLiteral("ddd, dd MMM yyyy HH:mm:ss 'GMT'");
+        response.headers.emplace_back(
+            "Last-Modified", QLocale::c().toString(content.modified.toUTC(), form).toLatin1());
+    }
+    if (clientHasIt(request, response))
+        response.status = 304;
+    else
+        response.content = std::move(content);
+    return response;
+}
+
+Response unavailableResponse(const Unavailable &why)
+{
+    Response response = textResponse(statusOf(why.reason), why.message + u'\n');
+    if (why.retryAfter > 0)
+        response.headers.emplace_back("Retry-After", QByteArray::number(why.retryAfter));
+    return response;
+}
+
+} // namespace moravel::server

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// The few kinds of answers that all handlers give.
+#pragma once
+
+#include "server/core/PictureSource.h"
+
+namespace moravel::server {
+
+/// UTF-8 text that no cache may keep.
+Response textResponse(int status, const QString &text);
+
+/// A page that may neither run scripts nor load anything from elsewhere.
+Response pageResponse(const QByteArray &html);
+
+/// A picture with its validators, or 304 when the request shows that the client has it.
+Response pictureResponse(const Request &request, Content content, bool isFinal);
+
+/// What is said of a page or picture that cannot be given.
+Response unavailableResponse(const Unavailable &why);
+
+} // namespace moravel::server

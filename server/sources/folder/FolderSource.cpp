@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "server/sources/folder/FolderSource.h"
+
+#include "server/core/Jpeg.h"
+
+#include <QFileInfo>
+#include <QImageReader>
+#include <QPainter>
+
+namespace moravel::server {
+
+namespace {
+
+constexpr qint64 mostPixels = 64'000'000; ///< 256 MB when decoded.
+constexpr qint64 mostBytes = 512'000'000;
+
+Unavailable notAPicture()
+{
+    return {Reason::NotAPicture,
+            QStringLiteral("That day's file is not a picture that can be shown.")};
+}
+
+QByteArray typeOf(const QString &name)
+{
+    const QByteArray extension = QFileInfo(name).suffix().toLower().toLatin1();
+    if (extension == "jpg")
+        return "image/jpeg";
+    return "image/" + (extension == "tif" ? QByteArray("tiff") : extension);
+}
+
+/// Tells two states of a file apart.
+QString revisionOf(const QString &name, const QFile &file)
+{
+    return QStringLiteral("%1/%2/%3")
+        .arg(name)
+        .arg(file.size())
+        .arg(file.fileTime(QFileDevice::FileModificationTime).toMSecsSinceEpoch());
+}
+
+/// Looks at the content, whatever the name says: other formats that Qt reads, such as SVG, load
+/// more files.
+bool isRaster(QFile &file)
+{
+    static const QList<QByteArray> formats{"jpeg", "png", "gif", "bmp", "webp", "tiff"};
+    return formats.contains(QImageReader::imageFormat(&file));
+}
+
+QSize shownSize(QFile &file)
+{
+    if (!isRaster(file))
+        return {};
+    QImageReader reader(&file);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed()
+                                                                             : size;
+}
+
+/// Decodes the picture into at most @p box, never enlarging it.
+QImage fitted(QFile &file, QSize box)
+{
+    if (!isRaster(file))
+        return {};
+    QImageReader reader(&file);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (reader.transformation() & QImageIOHandler::TransformationRotate90)
+        box.transpose();
+    if (size.width() > box.width() || size.height() > box.height())
+        reader.setScaledSize(size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    const QImage image = reader.read();
+    if (!image.hasAlphaChannel())
+        return image;
+    // JPEG has no transparency.
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(0, 0, image);
+    return opaque;
+}
+
+} // namespace
+
+FolderSource::FolderSource(FolderSetup setup, RenderCache &cache)
+    : m_setup(std::move(setup)), m_cache(cache), m_listing(m_setup.path)
+{ }
+
+tl::expected<QString, Unavailable> FolderSource::nameOn(QDate date) const
+{
+    const auto names = m_listing.names();
+    if (names->isEmpty())
+        return tl::unexpected(
+            Unavailable{Reason::NothingThatDay, QStringLiteral("The folder holds no pictures.")});
+    const qint64 day = QDate(1970, 1, 1).daysTo(date);
+    const qint64 count = names->size();
+    return names->at((day % count + count) % count);
+}
+
+tl::expected<FolderSource::Facts, Unavailable> FolderSource::factsOf(const QString &name,
+                                                                     QFile &file) const
+{
+    constexpr qsizetype mostFacts = 1000;
+    const QString revision = revisionOf(name, file);
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto known = m_facts.constFind(name);
+        if (known != m_facts.constEnd() && known->revision == revision)
+            return *known;
+    }
+    Facts facts{revision, shownSize(file), {}};
+    const qint64 pixels = qint64(facts.size.width()) * facts.size.height();
+    if (!facts.size.isValid() || pixels == 0 || pixels > mostPixels || file.size() > mostBytes)
+        return tl::unexpected(notAPicture());
+    facts.text = readEmbeddedText(file);
+    const std::lock_guard lock(m_mutex);
+    if (m_facts.size() >= mostFacts)
+        m_facts.clear();
+    m_facts.insert(name, facts);
+    return facts;
+}
+
+tl::expected<DayPicture, Unavailable> FolderSource::describe(QDate date) const
+{
+    const auto name = nameOn(date);
+    if (!name)
+        return tl::unexpected(name.error());
+    const auto file = openPlainFile(m_setup.path + u'/' + *name);
+    if (!file)
+        return tl::unexpected(notAPicture());
+    const auto facts = factsOf(*name, *file);
+    if (!facts)
+        return tl::unexpected(facts.error());
+    const QString credit = m_setup.credit.isEmpty() ? m_setup.longName : m_setup.credit;
+    DayPicture day;
+    day.caption = facts->text.title.isEmpty() ? captionFromName(*name) : facts->text.title;
+    day.info = facts->text.description;
+    day.credit =
+        m_setup.licence.isEmpty() ? credit : QStringLiteral("%1, %2").arg(credit, m_setup.licence);
+    day.fullSize = facts->size;
+    day.fullMegabytes = static_cast<double>(file->size()) / 1e6;
+    day.fullSuffix = QLatin1StringView("original.") + QFileInfo(*name).suffix().toLower();
+    day.isFinal = false;
+    return day;
+}
+
+tl::expected<Content, Unavailable> FolderSource::picture(QDate date, PictureKind kind) const
+{
+    const auto name = nameOn(date);
+    if (!name)
+        return tl::unexpected(name.error());
+    const auto file = openPlainFile(m_setup.path + u'/' + *name);
+    if (!file)
+        return tl::unexpected(notAPicture());
+    if (kind == PictureKind::Full) {
+        const QDateTime modified = file->fileTime(QFileDevice::FileModificationTime);
+        return Content{{}, file, typeOf(*name), modified};
+    }
+    return m_cache.picture(cacheName(shortName(), date, kind, revisionOf(*name, *file)),
+                           [&] { return encodedJpeg(fitted(*file, sizeOf(kind)), kind); });
+}
+
+} // namespace moravel::server
