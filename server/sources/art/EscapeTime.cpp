@@ -3,31 +3,29 @@
 
 #include "server/sources/art/Maths.h"
 
-#include <cstdint>
 #include <type_traits>
 
-// Eight points advance together in vector registers. Where the processor has wider registers the
-// loader picks the wider build; both do the same correctly rounded operations (contraction to fused
+// Several points advance together in a vector register. Where the processor has wider registers the
+// wider build is taken; both do the same correctly rounded operations (contraction to fused
 // multiply-add is off for this folder), so the results do not differ.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && !defined(__SANITIZE_ADDRESS__)
-#define MORAVEL_WIDE __attribute__((target_clones("avx2", "default")))
-#else
-#define MORAVEL_WIDE
+#if defined(__x86_64__) && defined(__GNUC__)
+#define MORAVEL_HAS_WIDE 1
 #endif
 
 namespace moravel::server::art {
 
 namespace {
 
-constexpr std::size_t kLanes = 8;
+/// Steps between looks whether all orbits have left.
+constexpr int kStride = 4;
 
-template <typename Real>
+/// The state of as many orbits as fit a register of @p Bytes.
+template <typename Real, std::size_t Bytes>
 struct Lanes {
-    using Int = std::conditional_t<sizeof(Real) == 4, std::int32_t, std::int64_t>;
-    typedef Real V __attribute__((vector_size(sizeof(Real) * kLanes)));
-    typedef Int M __attribute__((vector_size(sizeof(Real) * kLanes)));
+    typedef Real V __attribute__((vector_size(Bytes)));
+    static constexpr std::size_t kCount = Bytes / sizeof(Real);
 
-    V x, y, dx, dy, sum, last, trap, steps;
+    V x, y, dx, dy, sum, last, steps;
 };
 
 /// One step of z → z^P + c and of its derivative.
@@ -51,26 +49,26 @@ template <int P, typename V>
     x = nextX;
 }
 
-template <typename Mask>
+template <std::size_t Count, typename Mask>
 [[gnu::always_inline]] inline bool anyOf(const Mask &mask)
 {
     typename std::remove_cvref_t<decltype(mask[0])> all = 0;
-    for (std::size_t i = 0; i < kLanes; ++i)
+    for (std::size_t i = 0; i < Count; ++i)
         all |= mask[i];
     return all != 0;
 }
 
-template <typename Real, int P>
+template <typename Real, std::size_t Bytes, int P>
 [[gnu::always_inline]] inline void run(const EscapeRule &rule, const double *re, const double *im,
-                                       Lanes<Real> &s)
+                                       Lanes<Real, Bytes> &s)
 {
-    using V = typename Lanes<Real>::V;
+    using V = typename Lanes<Real, Bytes>::V;
+    constexpr std::size_t kCount = Lanes<Real, Bytes>::kCount;
     const V zero = {};
     V cx = zero;
     V cy = zero;
     s.x = s.y = s.dy = s.sum = s.last = s.steps = zero;
-    s.trap = zero + Real(1e9);
-    for (std::size_t i = 0; i < kLanes; ++i) {
+    for (std::size_t i = 0; i < kCount; ++i) {
         (rule.julia ? s.x : cx)[i] = static_cast<Real>(re[i]);
         (rule.julia ? s.y : cy)[i] = static_cast<Real>(im[i]);
     }
@@ -80,15 +78,14 @@ template <typename Real, int P>
     }
     s.dx = zero + (rule.julia ? Real(1) : Real(0));
     const V one = zero + (rule.julia ? Real(0) : Real(1));
-    const V trapX = zero + static_cast<Real>(rule.trapRe);
-    const V trapY = zero + static_cast<Real>(rule.trapIm);
     constexpr auto kFar = static_cast<Real>(kEscapeRadius * kEscapeRadius);
+#pragma GCC unroll 4
     for (int n = 0; n < rule.limit; ++n) {
         const V xx = s.x * s.x;
         const V yy = s.y * s.y;
         const V norm = xx + yy;
         const auto active = norm < kFar;
-        if (!anyOf(active))
+        if (n % kStride == 0 && !anyOf<kCount>(active))
             break;
         V x = s.x;
         V y = s.y;
@@ -98,23 +95,19 @@ template <typename Real, int P>
         const V nextNorm = x * x + y * y + Real(1e-20);
         const V inverse = Real(1) / nextNorm;
         const V wave = Real(4) * (x * y * inverse) * ((x * x - y * y) * inverse); // sin 4θ
-        const V tx = x - trapX;
-        const V ty = y - trapY;
-        const V t = tx * tx + ty * ty;
         s.x = active ? x : s.x;
         s.y = active ? y : s.y;
         s.dx = active ? dx : s.dx;
         s.dy = active ? dy : s.dy;
         s.sum = active ? s.sum + wave : s.sum;
         s.last = active ? wave : s.last;
-        s.trap = (t < s.trap) ? t : s.trap;
         s.steps = active ? s.steps + Real(1) : s.steps;
     }
 }
 
 /// Turns the last state of an orbit into what the shading wants.
-template <typename Real>
-void conclude(const EscapeRule &rule, const Lanes<Real> &s, std::size_t lane, std::size_t at, Orbits &o)
+template <typename State>
+void conclude(const EscapeRule &rule, const State &s, std::size_t lane, std::size_t at, Orbits &o)
 {
     const auto x = static_cast<double>(s.x[lane]);
     const auto y = static_cast<double>(s.y[lane]);
@@ -122,7 +115,6 @@ void conclude(const EscapeRule &rule, const Lanes<Real> &s, std::size_t lane, st
     const auto dy = static_cast<double>(s.dy[lane]);
     const double norm = x * x + y * y;
     const double slope = dx * dx + dy * dy;
-    o.trap[at] = static_cast<float>(s.trap[lane]);
     o.normalX[at] = o.normalY[at] = o.distance[at] = 0;
     o.steps[at] = -1;
     o.stripe[at] = 0.5F;
@@ -147,46 +139,60 @@ void conclude(const EscapeRule &rule, const Lanes<Real> &s, std::size_t lane, st
         = static_cast<float>(std::sqrt(norm / slope)) * logNorm * 0.34657359F; // |z| ln|z| / |z′|
 }
 
-template <typename Real, int P>
+template <typename Real, std::size_t Bytes, int P>
 [[gnu::always_inline]] inline void follow(const EscapeRule &rule, const double *re, const double *im,
                                           std::size_t count, Orbits &orbits)
 {
-    for (std::size_t at = 0; at < count; at += kLanes) {
-        Lanes<Real> state;
-        run<Real, P>(rule, re + at, im + at, state);
-        for (std::size_t lane = 0; lane < kLanes; ++lane)
-            conclude<Real>(rule, state, lane, at + lane, orbits);
+    Lanes<Real, Bytes> state;
+    for (std::size_t at = 0; at < count; at += state.kCount) {
+        run<Real, Bytes, P>(rule, re + at, im + at, state);
+        for (std::size_t lane = 0; lane < state.kCount; ++lane)
+            conclude(rule, state, lane, at + lane, orbits);
     }
 }
 
-template <typename Real>
+template <std::size_t Bytes>
 [[gnu::always_inline]] inline void followAny(const EscapeRule &rule, const double *re, const double *im,
                                              std::size_t count, Orbits &orbits)
 {
-    if (rule.power == 2)
-        follow<Real, 2>(rule, re, im, count, orbits);
+    if (rule.deep)
+        follow<double, Bytes, 2>(rule, re, im, count, orbits);
+    else if (rule.power == 2)
+        follow<float, Bytes, 2>(rule, re, im, count, orbits);
     else if (rule.power == 3)
-        follow<Real, 3>(rule, re, im, count, orbits);
+        follow<float, Bytes, 3>(rule, re, im, count, orbits);
     else
-        follow<Real, 4>(rule, re, im, count, orbits);
+        follow<float, Bytes, 4>(rule, re, im, count, orbits);
 }
+
+#ifdef MORAVEL_HAS_WIDE
+[[gnu::target("avx2")]] void followWide(const EscapeRule &rule, const double *re, const double *im,
+                                        std::size_t count, Orbits &orbits)
+{
+    followAny<32>(rule, re, im, count, orbits);
+}
+#endif
 
 } // namespace
 
+/// The most points that one register holds.
+static constexpr std::size_t kPadding = 8;
+
 void Orbits::resize(std::size_t count)
 {
-    for (auto *values : {&steps, &stripe, &normalX, &normalY, &distance, &trap})
-        values->resize((count + kLanes - 1) / kLanes * kLanes);
+    for (auto *values : {&steps, &stripe, &normalX, &normalY, &distance})
+        values->resize((count + kPadding - 1) / kPadding * kPadding);
 }
 
-MORAVEL_WIDE
 void followOrbits(const EscapeRule &rule, const double *re, const double *im, std::size_t count,
                   Orbits &orbits)
 {
-    if (rule.deep)
-        followAny<double>(rule, re, im, count, orbits);
-    else
-        followAny<float>(rule, re, im, count, orbits);
+#ifdef MORAVEL_HAS_WIDE
+    static const bool wide = __builtin_cpu_supports("avx2");
+    if (wide)
+        return followWide(rule, re, im, count, orbits);
+#endif
+    followAny<16>(rule, re, im, count, orbits);
 }
 
 } // namespace moravel::server::art

@@ -12,10 +12,8 @@ struct EscapeRule {
     bool julia = true;  ///< c is fixed and z starts at the point; else c is the point and z starts at 0.
     double cRe = 0;     ///< c of a Julia set.
     double cIm = 0;
-    double trapRe = 0;  ///< Point whose nearest approach by the orbit is recorded.
-    double trapIm = 0;
     int limit = 300;    ///< Steps after which a point counts as inside.
-    bool deep = false;  ///< Views narrower than about 0.02 need double precision.
+    bool deep = false;  ///< Follow in double precision, for views narrower than about 0.03; power 2 only.
 };
 
 /// What the orbits of a run of points tell, one entry a point.
@@ -25,7 +23,6 @@ struct Orbits {
     std::vector<float> normalX;  ///< Direction away from the set.
     std::vector<float> normalY;
     std::vector<float> distance; ///< Estimated distance to the set in the plane's units.
-    std::vector<float> trap;     ///< Least squared distance of the orbit to the trap.
 
     void resize(std::size_t count);
 };

@@ -51,10 +51,8 @@ private:
 Rgb shade(const FractalScene &scene, const Orbits &o, std::size_t i)
 {
     const FractalStyle &style = scene.style;
-    if (o.steps[i] < 0) {
-        const float veil = expOf(-6.0F * std::sqrt(o.trap[i]));
-        return mix(style.inside, style.gradient.at(0.45F), 0.35F * veil);
-    }
+    if (o.steps[i] < 0)
+        return style.inside;
     const float away = o.distance[i] / static_cast<float>(scene.view.width);
     const float silk = std::clamp((o.stripe[i] - scene.stripeMean) * scene.stripeScale, -1.0F, 1.0F);
     const float tone = scene.tones.at(o.steps[i]) + style.stripes * silk;

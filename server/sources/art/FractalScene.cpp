@@ -26,63 +26,77 @@ constexpr Place kJulia[] = {
     {-0.70176, -0.3842, 0.002, 2.5, 200},  {-0.835, -0.2321, 0.002, 2.6, 200},
     {-0.1, 0.6557, 0.002, 2.1, 220},       {0.3535, 0.0990, 0.003, 1.8, 240},
     {-0.162, 1.0409, 0.002, 2.2, 200},     {-0.7885, 0.1480, 0.002, 2.4, 220},
-    {-1.2500, 0.0200, 0.0012, 2.4, 240},   {0.32, 0.043, 0.001, 1.9, 240},
+    {0.3750, 0.2200, 0.0015, 1.9, 220},     {-0.7102, 0.2860, 0.0015, 2.3, 220},
     {-0.512511, 0.521295, 0.0004, 2.2, 240}, {-0.235125, 0.827215, 0.0015, 2.1, 220},
-};
-
-constexpr Place kJuliaCubic[] = {
-    {0.40, 0.5600, 0.006, 2.2, 180}, {-0.44, 0.6900, 0.006, 2.2, 180}, {0.53, 0.1, 0.006, 2.0, 180},
-    {0.4, -0.38, 0.006, 2.1, 180},   {-0.1, 0.9340, 0.006, 2.2, 180},
-};
-
-constexpr Place kJuliaQuartic[] = {
-    {0.600, 0.5500, 0.006, 2.2, 160}, {0.484, 0.365, 0.006, 2.1, 160}, {-0.78, 0.11, 0.006, 2.2, 160},
-    {0.2, 0.78, 0.006, 2.2, 160},
 };
 
 constexpr Place kMandelbrot[] = {
     {-0.7453, 0.1127, 0.25, 0.0065, 700},
-    {-0.743643887, 0.131825904, 0.15, 0.0018, 1200},
+    {-0.743643887, 0.131825904, 0.15, 0.0018, 800},
     {-0.761574, -0.0847596, 0.2, 0.0032, 700},
     {-0.748, 0.1, 0.2, 0.0034, 700},
     {0.2925755, -0.0149977, 0.2, 0.006, 500},
     {0.3245046418, 0.0485510113, 0.2, 0.004, 500},
     {-0.088, 0.654, 0.2, 0.014, 400},
     {-0.0452407411, 0.9868162204, 0.2, 0.004, 400},
-    {-0.16070135, 1.0375665, 0.2, 0.006, 400},
-    {-0.722, 0.246, 0.2, 0.019, 500},
     {-0.235125, 0.827215, 0.2, 0.004, 400},
     {-0.170337, -1.06506, 0.2, 0.006, 400},
     {0.42884, -0.231345, 0.2, 0.008, 400},
     {-1.25066, 0.02012, 0.2, 0.0017, 800},
     {-0.5503, 0.6259, 0.2, 0.009, 500},
-    {0.3602404, -0.6413130, 0.2, 0.004, 400},
 };
 
 constexpr int kProbeWidth = 96;
 constexpr int kProbeHeight = 54;
-constexpr int kCandidates = 6;
+constexpr int kCandidates = 6; ///< Looked at around one place.
+constexpr int kMostCandidates = 24;
+constexpr double kGoodScore = -0.42; ///< Below, the neighbouring places are looked at too.
 /// Mean steps a point that the time for the largest pictures allows.
-constexpr double kDearestMean = 130;
+constexpr double kDearestMean = 90;
 
 template <std::size_t N>
-const Place &placeOfDay(const Place (&places)[N], std::int64_t day)
+const Place &placeOfDay(const Place (&places)[N], std::int64_t day, int detour)
 {
-    return places[cardOfDay(day, N, 0x91ace)];
+    return places[(cardOfDay(day, N, 0x91ace) + static_cast<std::size_t>(detour)) % N];
 }
 
-/// Eight in sixteen days show quadratic Julia sets, five the Mandelbrot set, three higher powers.
-FractalScene candidate(std::int64_t day, Random &random)
+/// Goes from 0 outwards in a random direction to the edge of the set of z^power + c, and a little past
+/// it: there the Julia sets have just fallen to dust.
+Place beyondTheEdge(int power, Random &random)
+{
+    const double angle = random.between(0, 2 * kPi);
+    const double x = cosOf(angle);
+    const double y = sinOf(angle);
+    EscapeRule rule;
+    rule.power = power;
+    rule.julia = false;
+    rule.limit = 400;
+    Orbits orbits;
+    orbits.resize(1);
+    double inside = 0;
+    double outside = 2;
+    for (int i = 0; i < 16; ++i) {
+        const double middle = (inside + outside) / 2;
+        const std::vector<double> re(orbits.steps.size(), middle * x);
+        const std::vector<double> im(orbits.steps.size(), middle * y);
+        followOrbits(rule, re.data(), im.data(), 1, orbits);
+        (orbits.steps[0] < 0 ? inside : outside) = middle;
+    }
+    const double radius = outside + random.between(0.004, 0.02);
+    return {radius * x, radius * y, 0, 2.2, 200};
+}
+
+/// A view around the day's place, or around the one @p detour places further. Eight in sixteen days show quadratic Julia sets, five the Mandelbrot set, three higher powers.
+FractalScene candidate(std::int64_t day, int detour, Random &random)
 {
     FractalScene scene;
     const std::size_t card = cardOfDay(day, 16, 0xfa111e5);
     const bool mandelbrot = card % 3 == 1;
     scene.rule.power = card == 3 || card == 9 ? 3 : card == 14 ? 4 : 2;
     scene.rule.julia = !mandelbrot;
-    const Place &place = mandelbrot ? placeOfDay(kMandelbrot, day)
-        : scene.rule.power == 2     ? placeOfDay(kJulia, day)
-        : scene.rule.power == 3     ? placeOfDay(kJuliaCubic, day)
-                                    : placeOfDay(kJuliaQuartic, day);
+    const Place place = mandelbrot ? placeOfDay(kMandelbrot, day, detour)
+        : scene.rule.power == 2    ? placeOfDay(kJulia, day, detour)
+                                   : beyondTheEdge(scene.rule.power, random);
     FractalView &view = scene.view;
     scene.rule.limit = place.limit;
     if (mandelbrot) {
@@ -131,7 +145,7 @@ struct Findings {
     double inside = 0;
     double lace = 0;   ///< Points close to the set: the detail.
     double calm = 0;   ///< Points far from it: room for the eye (and for desktop icons).
-    double steps = 0;  ///< Mean cost.
+    double steps = 0;  ///< Mean number of steps a point, in single precision.
 };
 
 Findings examine(const FractalScene &scene, const Orbits &orbits)
@@ -147,7 +161,8 @@ Findings examine(const FractalScene &scene, const Orbits &orbits)
         f.steps += inside ? scene.rule.limit : static_cast<double>(orbits.steps[i]);
     }
     const auto count = static_cast<double>(orbits.steps.size());
-    return {f.inside / count, f.lace / count, f.calm / count, f.steps / count};
+    const double effort = scene.rule.deep ? 2 : 1; // double precision fills the registers twice as fast
+    return {f.inside / count, f.lace / count, f.calm / count, effort * f.steps / count};
 }
 
 /// Higher is better; the ideal is a quarter lace, a third calm and next to nothing inside.
@@ -155,7 +170,7 @@ double score(const Findings &f)
 {
     const double lace = std::abs(f.lace - 0.26);
     const double calm = std::abs(f.calm - 0.32);
-    const double inside = std::max(0.0, f.inside - 0.06);
+    const double inside = std::max(0.0, f.inside - 0.03);
     const double cost = std::max(0.0, f.steps / kDearestMean - 1);
     return -(2.0 * lace + calm + 3.0 * inside + 4.0 * cost);
 }
@@ -223,8 +238,8 @@ FractalScene fractalSceneFor(QDate date)
     std::optional<FractalScene> best;
     Orbits bestOrbits;
     double bestScore = 0;
-    for (int i = 0; i < kCandidates; ++i) {
-        FractalScene scene = candidate(day, random);
+    for (int i = 0; i < kMostCandidates && (i < kCandidates || bestScore < kGoodScore); ++i) {
+        FractalScene scene = candidate(day, i / kCandidates, random);
         const Orbits orbits = probe(scene);
         const double points = score(examine(scene, orbits));
         if (!best || points > bestScore) {
