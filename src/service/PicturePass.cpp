@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "service/PicturePass.h"
 
+#include "service/Logging.h"
+
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace moravel {
 
@@ -36,6 +40,8 @@ void PicturePass::loadNextPic()
             "moravel", "Double-click any thumbnail to set as desktop."));
         return;
     }
+    if (m_state.pass == PassState::Pass::None)
+        logShownCells();
     m_state.pass = PassState::Pass::Pictures;
     ThumbView &cell = m_context.cells.at(m_state.thumbIndex);
     m_state.currentLongSource = cell.longSourceName();
@@ -46,6 +52,15 @@ void PicturePass::loadNextPic()
         m_downloads.largePicFilePathForThumb(cell);
     ++m_state.thumbIndex;
     loop.schedule(StepSeconds, [this] { loadNextPic(); });
+}
+
+void PicturePass::logShownCells() const
+{
+    const auto &cells = m_context.cells.thumbViews();
+    const auto shown = std::count_if(cells.begin(), cells.end(), [](const auto &cell) {
+        return !cell->thumbPath().isEmpty() && !cell->isSpinning();
+    });
+    qCInfo(lcService).noquote() << "cells shown:" << shown << "of" << cells.size();
 }
 
 void PicturePass::downloadFinished()

@@ -20,6 +20,7 @@ public:
 
 private:
     void downloadFinished();
+    void logShownCells() const;
 
     const ServiceContext &m_context;
     PassState &m_state;
