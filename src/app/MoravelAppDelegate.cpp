@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "app/MoravelAppDelegate.h"
+
+#include <QLoggingCategory>
+
+namespace moravel {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcApp, "moravel.app")
+
+constexpr double AskAgainSeconds = 60; // for the sources, while none is known
+
+ThumbImages thumbImages(const Images &images)
+{
+    return {images.resource(QStringLiteral("blank")), images.resource(QStringLiteral("Trashcan")),
+            images.resource(QStringLiteral("Prefs"))};
+}
+
+} // namespace
+
+MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl, Options options)
+    : m_platform(platform)
+    , m_options(std::move(options))
+    , m_preferences(m_platform.defaults)
+    , m_cells(thumbImages(m_platform.images), commands())
+    , m_folders(m_platform.files, m_platform.alerts)
+    , m_legacy(m_folders, m_platform.files, m_dates,
+               [this]() -> const SourceNames & { return m_service.sources().sourceNames(); })
+    , m_records(m_folders, m_platform.files, m_platform.alerts, m_dates,
+                [this](const QString &name) { return m_legacy.oldStoredDataForFile(name); })
+    , m_updates(m_records, m_legacy, m_dates)
+    , m_links(m_folders, m_platform.files)
+    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_folders, m_records, m_updates, m_links,
+                 m_ports},
+                baseUrl)
+{
+    m_ports.showStatus = [this](const QString &text) { showStatus(text); };
+}
+
+MoravelAppDelegate::~MoravelAppDelegate() = default;
+
+ThumbCommands MoravelAppDelegate::commands()
+{
+    ThumbCommands commands;
+    // A command that comes while the program waits for an answer takes its turn after it.
+    commands.refreshDataForThumb = [this](ThumbView &cell) {
+        m_platform.loop.inOrder([this, &cell] { m_service.refreshDataForThumb(cell); });
+    };
+    return commands;
+}
+
+void MoravelAppDelegate::applicationWillFinishLaunching()
+{
+    m_datePicker.autoChangeDate = true;
+    m_datePicker.userChangeDate = false;
+    const QDateTime now = m_platform.loop.now();
+    m_datePicker.setMaximumDate(now);
+    m_datePicker.setDateValue(now);
+    m_dateNavigation = std::make_unique<DateNavigation>(
+        m_datePicker, m_platform.loop,
+        DateNavigationPorts{[this] { m_service.thumbPass().forgetLastDataCheck(); },
+                            [this](double seconds) { m_service.thumbPass().restart(seconds); }});
+    m_datePicker.autoChangeDate = false;
+    m_cells.createSpecialCells(now);
+    buildWindow();
+}
+
+void MoravelAppDelegate::buildWindow()
+{
+    m_toolTips = std::make_unique<ToolTips>(m_cells, m_preferences);
+    m_window = std::make_unique<MainWindow>(m_cells, m_datePicker, *m_dateNavigation, *m_toolTips);
+    m_window->windowShouldClose = [] { return true; };
+    SourceGridPorts ports;
+    ports.startPass = [this](double seconds) { m_service.thumbPass().restart(seconds); };
+    ports.retry = [this] { askForSourcesAgain(); };
+    m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
+                                          std::move(ports));
+}
+
+void MoravelAppDelegate::applicationDidFinishLaunching()
+{
+    m_preferences.readChangeFrequency();
+    m_preferences.readSizeSetting();
+    m_preferences.readDesktopOptions();
+    removeLeftOvers();
+    m_service.sources().getSources([this] {
+        sourcesAreKnown();
+        m_toolTips->readTooltipOptions();
+    });
+}
+
+void MoravelAppDelegate::removeLeftOvers()
+{
+    const QString data = m_folders.moravelDataFile();
+    const QString pictures = m_folders.moravelFolder();
+    qCInfo(lcApp).noquote() << "data file:" << data;
+    qCInfo(lcApp).noquote() << "picture folder:" << pictures;
+    const QString support = data.left(data.lastIndexOf(u'/') + 1);
+    for (const QString &folder : {pictures, m_folders.thumbsFolder(), support}) {
+        if (!folder.isEmpty())
+            m_platform.files.removeParts(folder);
+    }
+}
+
+void MoravelAppDelegate::sourcesAreKnown()
+{
+    const SourceNames &names = m_service.sources().sourceNames();
+    qCInfo(lcApp).noquote() << "sources known:" << names.size();
+    m_grid->drawCheckboxesAndThumbs(names);
+    if (names.isEmpty())
+        m_askAgain = m_platform.loop.after(AskAgainSeconds, [this] { askForSourcesAgain(); });
+    else
+        switchOnAsAsked();
+}
+
+void MoravelAppDelegate::askForSourcesAgain()
+{
+    m_askAgain.reset();
+    m_service.sources().getSources([this] {
+        if (m_cells.count() > 0)
+            return;
+        m_service.thumbPass().forgetLastDataCheck();
+        sourcesAreKnown();
+        if (m_cells.count() > 0)
+            m_toolTips->readTooltipOptions();
+    });
+}
+
+void MoravelAppDelegate::switchOnAsAsked()
+{
+    if (!m_options.sources)
+        return;
+    for (const QString &unknown : m_grid->switchOn(*m_options.sources))
+        qCWarning(lcApp).noquote() << "no source is called" << unknown;
+    m_options.sources.reset();
+}
+
+void MoravelAppDelegate::applicationShouldTerminate()
+{
+    m_service.downloads().cancelAll();
+}
+
+void MoravelAppDelegate::showStatus(const QString &text)
+{
+    if (m_window)
+        m_window->showStatus(text);
+}
+
+} // namespace moravel
