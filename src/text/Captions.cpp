@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <unicode/brkiter.h>
 #include <unicode/casemap.h>
-#include <unicode/stringoptions.h>
 
 namespace moravel {
 namespace {
@@ -19,14 +18,22 @@ Q_LOGGING_CATEGORY(lcText, "moravel.text")
 // than this, and a hostile one must not hold up the window.
 constexpr qsizetype longestCapitalised = 16'384;
 
-// The first letter of each word in title case, the rest in lower case; \a text itself if ICU has no
-// data.
+// ICU takes "U.S.A." for one word.
+void capitaliseAfterFullStops(QString &text)
+{
+    for (qsizetype i = 1; i < text.size(); ++i) {
+        if (text.at(i - 1) == u'.' && text.at(i).isLower())
+            text[i] = text.at(i).toUpper();
+    }
+}
+
+// Each word begins in title case and goes on in lower case; \a text itself if ICU has no data.
 QString capitalised(const QString &text)
 {
     QString result(2 * text.size() + 16, Qt::Uninitialized); // "İ" takes two units in lower case
     UErrorCode error = U_ZERO_ERROR;
     const auto length = icu::CaseMap::toTitle(
-        "", U_TITLECASE_ADJUST_TO_CASED, nullptr, reinterpret_cast<const char16_t *>(text.utf16()),
+        "", 0, nullptr, reinterpret_cast<const char16_t *>(text.utf16()),
         static_cast<std::int32_t>(text.size()), reinterpret_cast<char16_t *>(result.data()),
         static_cast<std::int32_t>(result.size()), nullptr, error);
     if (U_FAILURE(error)) {
@@ -34,6 +41,7 @@ QString capitalised(const QString &text)
         return text;
     }
     result.truncate(length);
+    capitaliseAfterFullStops(result);
     return result;
 }
 
