@@ -99,21 +99,21 @@ void Downloads::startDownloadingURL(const QString &link, const QString &toFilePa
 
 HttpHandlers Downloads::handlers(const std::weak_ptr<Download> &weak)
 {
-    // Answers wait while the program's own sequence waits for something else; a download that was
-    // cancelled meanwhile is gone.
-    const auto inOrder = [this, weak](std::function<void(const DownloadPtr &)> fn) {
-        m_context.platform.loop.inOrder([weak, fn = std::move(fn)] {
-            if (const DownloadPtr download = weak.lock())
-                fn(download);
-        });
+    const auto now = [weak](const std::function<void(const DownloadPtr &)> &fn) {
+        if (const DownloadPtr download = weak.lock())
+            fn(download);
+    };
+    // The end of a download waits while the program's own sequence waits for something else; its bytes
+    // do not, or they would pile up in memory.
+    const auto inOrder = [this, now](std::function<void(const DownloadPtr &)> fn) {
+        m_context.platform.loop.inOrder([now, fn = std::move(fn)] { now(fn); });
     };
     HttpHandlers handlers;
-    handlers.onResponse = [this, inOrder](const HttpResponse &response) {
-        inOrder(
-            [this, response](const DownloadPtr &d) { downloadDidReceiveResponse(*d, response); });
+    handlers.onResponse = [this, now](const HttpResponse &response) {
+        now([&](const DownloadPtr &d) { downloadDidReceiveResponse(*d, response); });
     };
-    handlers.onData = [this, inOrder](const QByteArray &bytes) {
-        inOrder([this, bytes](const DownloadPtr &d) { downloadDidReceiveData(d, bytes); });
+    handlers.onData = [this, now](const QByteArray &bytes) {
+        now([&](const DownloadPtr &d) { downloadDidReceiveData(d, bytes); });
     };
     handlers.onFinished = [this, inOrder] {
         inOrder([this](const DownloadPtr &d) { downloadDidReceiveAll(d); });
