@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/CaptionLabel.h"
+
+#include "mainwindow/Icons.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace moravel {
+
+namespace {
+
+constexpr int LongestLine =
+    300; // characters that a line of a label can show at most, with room to spare
+constexpr int LongestToolTip = 1500;
+
+} // namespace
+
+QString plainToolTip(const QString &text)
+{
+    QString shown = text.trimmed();
+    if (shown.size() > LongestToolTip)
+        shown = shown.left(LongestToolTip) + QChar(0x2026);
+    if (shown.isEmpty())
+        return {};
+    return QStringLiteral("<span style=\"white-space: pre-wrap\">%1</span>")
+        .arg(shown.toHtmlEscaped());
+}
+
+CaptionLabel::CaptionLabel(int maximumLines, QWidget *parent)
+    : QWidget(parent), m_maximumLines(maximumLines)
+{
+    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void CaptionLabel::setText(const QString &text)
+{
+    if (text == m_text)
+        return;
+    m_text = text;
+    m_layoutWidth = -1;
+    setAccessibleName(text.left(LongestToolTip));
+    updateGeometry();
+    update();
+}
+
+void CaptionLabel::setSecondary(bool secondary)
+{
+    m_secondary = secondary;
+    update();
+}
+
+bool CaptionLabel::isElided() const
+{
+    return layoutFor(width(), linesThatFit()).elided;
+}
+
+int CaptionLabel::linesThatFit() const
+{
+    return std::clamp(height() / fontMetrics().lineSpacing(), 1, m_maximumLines);
+}
+
+const CaptionLabel::Layout &CaptionLabel::layoutFor(int width, int most) const
+{
+    if (width == m_layoutWidth && most == m_layoutLines)
+        return m_layout;
+    m_layoutWidth = width;
+    m_layoutLines = most;
+    m_layout = {};
+    QString text = m_text.left(LongestLine * m_maximumLines);
+    text.replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(text, font());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        if (m_layout.lines.size() + 1 < most) {
+            m_layout.lines += text.mid(line.textStart(), line.textLength());
+            continue;
+        }
+        QString rest = text.mid(line.textStart());
+        m_layout.elided = line.textStart() + line.textLength() < text.size();
+        if (m_layout.elided) {
+            rest.replace(QChar::LineSeparator, u' ');
+            rest = fontMetrics().elidedText(rest + u' ', Qt::ElideRight, width);
+            if (!rest.contains(QChar(0x2026))) // the line fits, but lines follow
+                rest = rest.trimmed() + QChar(0x2026);
+        }
+        m_layout.lines += rest;
+        break;
+    }
+    layout.endLayout();
+    return m_layout;
+}
+
+int CaptionLabel::heightForWidth(int width) const
+{
+    const auto lines = std::max<qsizetype>(1, layoutFor(width, m_maximumLines).lines.size());
+    return static_cast<int>(lines) * fontMetrics().lineSpacing();
+}
+
+QSize CaptionLabel::sizeHint() const
+{
+    return {100, fontMetrics().lineSpacing()};
+}
+
+QSize CaptionLabel::minimumSizeHint() const
+{
+    return {20, fontMetrics().lineSpacing()};
+}
+
+void CaptionLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const QColor text = palette().color(foregroundRole());
+    painter.setPen(m_secondary ? blend(text, palette().color(QPalette::Base), 0.62) : text);
+    const bool rightToLeft = m_text.isEmpty() ? isRightToLeft() : m_text.isRightToLeft();
+    painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    const int flags = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignAbsolute
+        | (rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    const int step = fontMetrics().lineSpacing();
+    int top = 0;
+    for (const QString &line : layoutFor(width(), linesThatFit()).lines) {
+        painter.drawText(QRect(0, top, width(), step), flags, line);
+        top += step;
+    }
+}
+
+bool CaptionLabel::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        QToolTip::showText(help->globalPos(), isElided() ? plainToolTip(m_text) : QString(), this);
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void CaptionLabel::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked(1);
+}
+
+void CaptionLabel::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT clicked(2);
+}
+
+void CaptionLabel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_layoutWidth = -1;
+        updateGeometry();
+    }
+    QWidget::changeEvent(event);
+}
+
+} // namespace moravel

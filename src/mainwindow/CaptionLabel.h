@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace moravel {
+
+/// A label of at most a few lines of plain text, elided at its end, with the whole text as tool tip when
+/// it does not fit. The text may come from outside: it is never taken for markup.
+class CaptionLabel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CaptionLabel(int maximumLines, QWidget *parent = nullptr);
+
+    void setText(const QString &text);
+
+    QString text() const { return m_text; }
+
+    bool isElided() const;
+
+    /// Draws in the quieter colour of secondary text.
+    void setSecondary(bool secondary);
+
+    bool hasHeightForWidth() const override { return true; }
+
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+Q_SIGNALS:
+    /// The left mouse button was pressed, for the @p clickCount-th time in a row.
+    void clicked(int clickCount);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Layout
+    {
+        QStringList lines;
+        bool elided = false;
+    };
+
+    int linesThatFit() const;
+    const Layout &layoutFor(int width, int most) const;
+
+    int m_maximumLines;
+    bool m_secondary = false;
+    QString m_text;
+    mutable int m_layoutWidth = -1;
+    mutable int m_layoutLines = -1;
+    mutable Layout m_layout;
+};
+
+/// Wraps a text from outside for use as a tool tip: shown literally, in lines of readable length.
+QString plainToolTip(const QString &text);
+
+} // namespace moravel

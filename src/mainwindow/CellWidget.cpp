@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/CellWidget.h"
+
+#include "mainwindow/CaptionLabel.h"
+#include "mainwindow/CellButton.h"
+#include "mainwindow/CellMenu.h"
+#include "mainwindow/Icons.h"
+#include "mainwindow/PictureView.h"
+#include "mainwindow/Spinner.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QGridLayout>
+#include <QMenu>
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace moravel {
+
+namespace {
+
+// The card leaves room around itself: the first row touches the upper edge of the grid.
+constexpr int CardTop = 14;
+constexpr int CardBottom = 4;
+constexpr int PictureHeight = 150;
+constexpr int TextMargin = 11;
+constexpr int CaptionLines = 5;
+
+QRectF cardOf(const QWidget &cell)
+{
+    return QRectF(cell.rect()).adjusted(0.5, CardTop - 0.5, -0.5, -CardBottom - 0.5);
+}
+
+} // namespace
+
+CellWidget::CellWidget(ThumbView &view, QWidget *parent) : QWidget(parent), m_view(view)
+{
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(1, CardTop, 1, CardBottom + 6);
+    column->setSpacing(0);
+    buildPicture();
+    buildTexts();
+    buildButtons();
+    connect(&m_view, &ThumbView::changed, this, &CellWidget::follow);
+    follow();
+}
+
+void CellWidget::buildPicture()
+{
+    m_picture = new PictureView(this);
+    m_picture->setFixedHeight(PictureHeight);
+    layout()->addWidget(m_picture);
+    m_clicker = new Clicker(m_picture);
+    m_clicker->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    m_clicker->setProperty("tag", m_view.tag());
+    m_clicker->installEventFilter(this);
+    m_spinner = new Spinner(m_picture);
+    m_bar = new CellButtonBar(m_picture);
+    m_bar->hide();
+    auto *layers = new QGridLayout(m_picture); // one above the other, later ones on top
+    layers->setContentsMargins(0, 0, 0, 0);
+    layers->setSpacing(0);
+    layers->setRowStretch(0, 1);
+    layers->setRowMinimumHeight(1, 9);
+    layers->addWidget(m_clicker, 0, 0, 2, 1);
+    layers->addWidget(m_spinner, 0, 0, 2, 1, Qt::AlignCenter);
+    layers->addWidget(m_bar, 0, 0, Qt::AlignHCenter | Qt::AlignBottom);
+    connect(m_clicker, &Clicker::clickCounted, &m_view, &ThumbView::setThumbAsDesktop);
+    connect(m_clicker, &Clicker::lookWanted, &m_view, &ThumbView::showThumbLarge);
+}
+
+void CellWidget::buildTexts()
+{
+    auto *texts = new QVBoxLayout;
+    texts->setContentsMargins(TextMargin, 8, TextMargin, 0);
+    texts->setSpacing(0);
+    m_sourceField = new CaptionLabel(2, this);
+    m_sourceField->setObjectName(QStringLiteral("sourceField"));
+    QFont bold = font();
+    bold.setBold(true);
+    m_sourceField->setFont(bold);
+    m_dateField = new CaptionLabel(1, this);
+    m_dateField->setObjectName(QStringLiteral("dateField"));
+    m_dateField->setSecondary(true);
+    m_captionField = new CaptionLabel(CaptionLines, this);
+    m_captionField->setObjectName(QStringLiteral("captionField"));
+    connect(m_captionField, &CaptionLabel::clicked, &m_view, &ThumbView::refreshCaption);
+    texts->addWidget(m_sourceField);
+    texts->addWidget(m_dateField);
+    texts->addSpacing(6);
+    texts->addWidget(m_captionField);
+    texts->addStretch(1);
+    static_cast<QVBoxLayout *>(layout())->addLayout(texts, 1);
+}
+
+CellButton *CellWidget::addButton(const QString &objectName, const QString &iconName,
+                                  const QString &name, std::function<void()> command)
+{
+    CellButton *button = m_bar->addButton(objectName, iconName, name);
+    button->installEventFilter(this);
+    button->hide();
+    connect(button, &QAbstractButton::clicked, &m_view, std::move(command));
+    return button;
+}
+
+void CellWidget::buildButtons()
+{
+    const auto &commands = m_view.commands();
+    ThumbView &view = m_view;
+    m_prevDesktopBtn =
+        addButton(QStringLiteral("prevDesktopBtn"), QStringLiteral("previous-desktop"),
+                  tr("Previous desktop"), [&commands, &view] { commands.previousDesktop(view); });
+    m_newDesktopBtn =
+        addButton(QStringLiteral("newDesktopBtn"), QStringLiteral("new-desktop"), tr("New desktop"),
+                  [&commands, &view] { commands.newDesktop(view); });
+    m_infoButton = addButton(QStringLiteral("infoButton"), QStringLiteral("info"), tr("More info"),
+                             [&view] { view.showThumbLarge(); });
+    m_refreshButton = addButton(QStringLiteral("refreshButton"), QStringLiteral("refresh"),
+                                tr("Refresh"), [&view] { view.refreshData(); });
+    m_deleteBtn = addButton(QStringLiteral("deleteBtn"), QStringLiteral("delete"), tr("Delete"),
+                            [&commands, &view] { commands.deletePic(view); });
+    m_deleteBtn->setProperty("tag", m_view.tag());
+}
+
+void CellWidget::follow()
+{
+    setVisible(!m_view.isHidden());
+    m_sourceField->setText(m_view.sourceField());
+    m_dateField->setText(m_view.dateField());
+    m_captionField->setText(m_view.captionField());
+    m_picture->setImage(m_view.imageView());
+    m_picture->setPlaceholderShown(!m_view.isSpinning());
+    m_spinner->setVisible(m_view.isSpinning());
+    QStringList parts{m_view.sourceField(), m_view.dateField(), m_view.captionField()};
+    parts.removeAll(QString());
+    m_clicker->setAccessibleName(parts.join(QStringLiteral(", ")));
+    followToolTips();
+    followButtons();
+}
+
+void CellWidget::followToolTips()
+{
+    const ThumbToolTips &tips = m_view.toolTips();
+    m_clicker->setToolTip(tips.clicker);
+    m_deleteBtn->setToolTip(tips.deleteBtn);
+    m_infoButton->setToolTip(tips.infoButton);
+    m_refreshButton->setToolTip(tips.refreshButton);
+    m_newDesktopBtn->setToolTip(tips.newDesktopBtn);
+    m_prevDesktopBtn->setToolTip(tips.prevDesktopBtn);
+}
+
+void CellWidget::followButtons()
+{
+    const ThumbButtons shown = m_view.buttons();
+    const ThumbCommands &commands = m_view.commands();
+    const bool reveal = underMouse() || hasFocusInside();
+    bool any = false;
+    const auto apply = [&](CellButton *button, bool wanted, bool offered) {
+        const bool visible = wanted && offered;
+        if (!visible && button->hasFocus())
+            m_clicker->setFocus();
+        button->setVisible(visible);
+        any = any || visible;
+    };
+    const bool desktop = m_view.tag() == ThumbView::DesktopTag;
+    apply(m_prevDesktopBtn, desktop && shown.prevDesktopBtn, bool(commands.previousDesktop));
+    apply(m_newDesktopBtn, shown.newDesktopBtn, bool(commands.newDesktop));
+    apply(m_infoButton, shown.infoButton, bool(commands.showLargePic));
+    apply(m_refreshButton, shown.refreshButton, bool(commands.refreshDataForThumb));
+    apply(m_deleteBtn, shown.deleteBtn, bool(commands.deletePic));
+    m_bar->setVisible(reveal && any);
+}
+
+bool CellWidget::hasFocusInside() const
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus && isAncestorOf(focus);
+}
+
+QList<QWidget *> CellWidget::focusChain() const
+{
+    return {m_clicker,    m_prevDesktopBtn, m_newDesktopBtn,
+            m_infoButton, m_refreshButton,  m_deleteBtn};
+}
+
+void CellWidget::takeFocus()
+{
+    m_clicker->setFocus(Qt::OtherFocusReason);
+}
+
+bool CellWidget::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        followButtons();
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CellWidget::enterEvent(QEnterEvent *)
+{
+    followButtons();
+}
+
+void CellWidget::leaveEvent(QEvent *)
+{
+    followButtons();
+}
+
+void CellWidget::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (QMenu *menu = makeCellMenu(m_view, this))
+        menu->popup(event->globalPos());
+}
+
+void CellWidget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    constexpr double Radius = PictureView::CornerRadius + 0.5;
+    const QRectF card = cardOf(*this);
+    painter.setPen(Qt::NoPen);
+    for (const double spread : {3.0, 2.0, 1.0}) { // a soft shadow, a little below
+        painter.setBrush(QColor(0, 0, 0, 9));
+        painter.drawRoundedRect(card.adjusted(1 - spread / 2, 1, spread / 2 - 1, spread), Radius,
+                                Radius);
+    }
+    const QColor text = palette().color(QPalette::Text);
+    const QColor base = palette().color(QPalette::Base);
+    painter.setBrush(base);
+    painter.setPen(QPen(blend(text, base, 0.14), 1));
+    painter.drawRoundedRect(card, Radius, Radius);
+    if (m_clicker->hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.drawRoundedRect(card.adjusted(0.5, -1, -0.5, 1), Radius, Radius);
+    }
+}
+
+} // namespace moravel

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/SideBar.h"
+
+#include "mainwindow/CaptionLabel.h"
+#include "mainwindow/CellWidget.h"
+#include "mainwindow/DatePickerWidget.h"
+#include "mainwindow/GridLayout.h"
+
+#include <QLabel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace moravel {
+
+namespace {
+
+constexpr int Margin = 10;
+constexpr int CellBottom = 312; // points from the upper edge to the lower edge of the desktop cell
+
+QToolButton *makeButton(const QString &objectName, QAction *action, QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setDefaultAction(action);
+    button->setObjectName(objectName);
+    button->setAccessibleName(action->toolTip());
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+    return button;
+}
+
+QLabel *makeLongDate(DatePicker &picker, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QStringLiteral("longDate"));
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    const auto follow = [label, &picker] {
+        label->setText(label->locale().toString(picker.dateValue().date(), QLocale::LongFormat));
+    };
+    QObject::connect(&picker, &DatePicker::changed, label, follow);
+    follow();
+    return label;
+}
+
+} // namespace
+
+SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActions &actions,
+                 QWidget *parent)
+    : QWidget(parent), m_nextChange(new CaptionLabel(3, this))
+{
+    setObjectName(QStringLiteral("sideBar"));
+    m_nextChange->setObjectName(QStringLiteral("nextChange"));
+    m_nextChange->hide();
+    auto *desktop = new CellWidget(desktopThumb, this);
+    desktop->setObjectName(QStringLiteral("desktopThumb"));
+    desktop->setFixedSize(grid::CellWidth - Margin, grid::CellHeight);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(Margin, CellBottom - grid::CellHeight, Margin, Margin);
+    column->setSpacing(8);
+    column->addWidget(desktop);
+    column->addWidget(m_nextChange);
+    column->addSpacing(4);
+    column->addWidget(makeLongDate(datePicker, this));
+    column->addWidget(makeDateRow(datePicker, actions));
+    column->addWidget(makeButton(QStringLiteral("todayButton"), actions.today, this), 0,
+                      Qt::AlignHCenter);
+    column->addStretch(1);
+}
+
+QWidget *SideBar::makeDateRow(DatePicker &datePicker, const DateActions &actions)
+{
+    auto *row = new QWidget(this);
+    auto *layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(makeButton(QStringLiteral("prevDayButton"), actions.previousDay, row));
+    layout->addWidget(new DatePickerWidget(datePicker, row), 1);
+    layout->addWidget(makeButton(QStringLiteral("nextDayButton"), actions.nextDay, row));
+    return row;
+}
+
+void SideBar::setNextChange(const QString &text)
+{
+    m_nextChange->setText(text);
+    m_nextChange->setVisible(!text.isEmpty());
+}
+
+} // namespace moravel
