@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtImages.h"
+
+#include "platform/qt/PictureFile.h"
+#include "platform/qt/PictureFormat.h"
+
+#include <QImageReader>
+#include <QLoggingCategory>
+
+#include <cstring>
+
+// At global scope, as the macro wants it; without it the linker drops the resources of the library.
+static void useResources()
+{
+    Q_INIT_RESOURCE(moravel);
+}
+
+namespace moravel {
+
+namespace {
+
+// Two: scaling down a picture takes a core, and the memory of two huge ones is enough.
+constexpr int Threads = 2;
+
+// Space agencies publish pictures of over 100 megapixels, at 4 bytes each; Qt's default of 256 MB
+// stops at 67 megapixels.
+constexpr int AllocationLimitMb = 512;
+
+QLoggingCategory::CategoryFilter previousFilter = nullptr;
+
+/// The decoders log a line for each flaw of a file, and so give strangers a pen to our log. What we
+/// need to know of a flaw, the result tells.
+void silenceDecoders(QLoggingCategory *category)
+{
+    if (previousFilter)
+        previousFilter(category);
+    for (const char *prefix : {"qt.gui.imageio", "qt.imageformats"}) {
+        if (std::strncmp(category->categoryName(), prefix, std::strlen(prefix)) == 0) {
+            category->setEnabled(QtWarningMsg, false);
+            category->setEnabled(QtCriticalMsg, false);
+        }
+    }
+}
+
+void installFilterOnce()
+{
+    static const bool installed = [] {
+        previousFilter = QLoggingCategory::installFilter(silenceDecoders);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+} // namespace
+
+QtImages::QtImages()
+{
+    useResources();
+    installFilterOnce();
+    QImageReader::setAllocationLimit(AllocationLimitMb);
+    m_pool.setMaxThreadCount(Threads);
+}
+
+QtImages::~QtImages()
+{
+    m_stop = true;
+    m_pool.clear();
+    m_pool.waitForDone();
+}
+
+template <typename Result>
+void QtImages::run(std::function<Result()> work, std::function<void(Result)> done)
+{
+    m_pool.start([this, work = std::move(work), done = std::move(done)]() mutable {
+        // The callback goes along, so that what it captured also dies on the main thread.
+        QMetaObject::invokeMethod(
+            &m_mainThread, [result = work(), done = std::move(done)] { done(result); },
+            Qt::QueuedConnection);
+    });
+}
+
+void QtImages::load(const QString &path, QSize box, std::function<void(QImage)> done)
+{
+    run<QImage>([this, path, box] { return decodePicture(path, box, m_stop); }, std::move(done));
+}
+
+void QtImages::check(const QString &path, std::function<void(QSize)> done)
+{
+    run<QSize>([this, path] { return completePictureSize(path, m_stop); }, std::move(done));
+}
+
+bool QtImages::isImageExtension(const QString &extension) const
+{
+    return pictureformat::isExtension(extension);
+}
+
+QImage QtImages::resource(const QString &name) const
+{
+    const auto known = m_resources.constFind(name);
+    if (known != m_resources.constEnd())
+        return *known;
+    const QImage image(QStringLiteral(":/moravel/%1.png").arg(name));
+    if (!image.isNull())
+        m_resources.insert(name, image);
+    return image;
+}
+
+} // namespace moravel
