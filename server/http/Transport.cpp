@@ -13,7 +13,7 @@ namespace moravel::server {
 namespace {
 
 constexpr std::size_t threads = 32;
-constexpr int requestsPerConnection = 10'000;
+constexpr std::size_t requestsPerConnection = 10'000;
 
 /// Without SO_REUSEPORT, which the library sets by itself: a second service on the port must fail.
 void setSocketOptions(int socket)
@@ -30,6 +30,8 @@ Transport::Transport(HttpServer::Handler handler, const ConnectionLimits &limits
     new_task_queue = [this] { return new CountingPool(threads, m_waiting); };
     set_tcp_nodelay(true); // The head and the body of an answer are two writes.
     set_socket_options(setSocketOptions);
+    set_keep_alive_max_count(requestsPerConnection); // These two are only told to the client.
+    set_keep_alive_timeout(m_limits.idleMs / 1000);
     set_payload_max_length(mostBodyBytes);
     set_read_timeout(std::chrono::milliseconds(m_limits.readMs));
     set_write_timeout(std::chrono::milliseconds(m_limits.writeMs));
@@ -96,7 +98,7 @@ bool Transport::process_and_close_socket(socket_t socket)
     ConnectionStream stream(socket, m_limits);
     const auto giveUp = [this] { return m_stopping || m_waiting > 0; };
     try {
-        for (int left = requestsPerConnection; left > 0 && !m_stopping; --left) {
+        for (std::size_t left = requestsPerConnection; left > 0 && !m_stopping; --left) {
             if (!stream.awaitRequest(giveUp) || !answerOne(stream))
                 break;
         }
