@@ -2,9 +2,7 @@
 // moravel-render SOURCE YYYY-MM-DD WIDTHxHEIGHT FILE: draws the picture of a day, prints its texts and
 // how long it took.
 #include "server/sources/art/Fractal.h"
-#if __has_include("server/sources/art/Landscape.h")
 #include "server/sources/art/Landscape.h"
-#endif
 #if __has_include("server/sources/sky/Moon.h")
 #include "server/sources/sky/Moon.h"
 #endif
@@ -28,9 +26,7 @@ std::vector<std::unique_ptr<ComputedSource>> allSources()
 {
     std::vector<std::unique_ptr<ComputedSource>> sources;
     sources.push_back(std::make_unique<Fractal>());
-#if __has_include("server/sources/art/Landscape.h")
     sources.push_back(std::make_unique<Landscape>());
-#endif
 #if __has_include("server/sources/sky/Moon.h")
     sources.push_back(std::make_unique<Moon>());
 #endif
