@@ -25,13 +25,12 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &
     , m_preferences(m_platform.defaults)
     , m_cells(thumbImages(m_platform.images), commands())
     , m_folders(m_platform.files, m_platform.alerts)
-    , m_legacy(m_folders, m_platform.files, m_dates,
-               [this]() -> const SourceNames & { return m_service.sources().sourceNames(); })
+    , m_legacy(m_folders, m_platform.files, m_dates, m_sourceNames)
     , m_records(m_folders, m_platform.files, m_platform.alerts, m_dates,
                 [this](const QString &name) { return m_legacy.oldStoredDataForFile(name); })
     , m_updates(m_records, m_legacy, m_dates)
     , m_links(m_folders, m_platform.files)
-    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_folders, m_records, m_updates, m_links,
+    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records, m_updates, m_links,
                  m_ports},
                 baseUrl)
 {
@@ -105,10 +104,9 @@ void MoravelAppDelegate::removeLeftOvers()
 
 void MoravelAppDelegate::sourcesAreKnown()
 {
-    const SourceNames &names = m_service.sources().sourceNames();
-    qCInfo(lcApp).noquote() << "sources known:" << names.size();
-    m_grid->drawCheckboxesAndThumbs(names);
-    if (names.isEmpty())
+    qCInfo(lcApp).noquote() << "sources known:" << m_sourceNames.size();
+    m_grid->drawCheckboxesAndThumbs(m_sourceNames);
+    if (m_sourceNames.isEmpty())
         m_askAgain = m_platform.loop.after(AskAgainSeconds, [this] { askForSourcesAgain(); });
     else
         switchOnAsAsked();

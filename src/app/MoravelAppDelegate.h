@@ -52,6 +52,7 @@ private:
     Preferences m_preferences;
     DatePicker m_datePicker;
     ThumbCells m_cells;
+    SourceNames m_sourceNames;
     Folders m_folders;
     LegacyCaptions m_legacy;
     RecordFile m_records;

@@ -13,7 +13,7 @@ void HeldFetch::get(const QString &link, qint64 maxBytes,
     request.url = QUrl(link);
     request.maxBytes = maxBytes;
     request.totalTimeout = TotalSeconds;
-    const std::shared_ptr<LoopHold> hold = m_loop.hold();
+    std::shared_ptr<LoopHold> hold = m_loop.hold();
     m_http.fetch(request, [hold, done = std::move(done)](FetchResult result) mutable {
         done(std::move(result));
         hold.reset();

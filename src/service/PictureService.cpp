@@ -7,7 +7,7 @@ PictureService::PictureService(const ServiceContext &context, const QString &bas
     : m_context(context)
     , m_urls(baseUrl)
     , m_fetch(context.platform.http, context.platform.loop)
-    , m_sources(m_fetch, m_urls, context.platform.files, context.folders)
+    , m_sources(m_fetch, m_urls, context.platform.files, context.folders, context.sourceNames)
     , m_queue(context.platform.http, context.platform.loop, context.ports)
     , m_data(m_context, m_urls, m_queue)
     , m_picturePass(m_context, m_state, m_queue)

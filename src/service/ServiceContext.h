@@ -5,6 +5,7 @@
 #include "base/Dates.h"
 #include "platform/Platform.h"
 #include "service/ServicePorts.h"
+#include "service/SourceNames.h"
 #include "store/Folders.h"
 #include "store/PictureLinks.h"
 #include "store/RecordFile.h"
@@ -20,6 +21,7 @@ struct ServiceContext
     const Dates &dates;
     DatePicker &datePicker;
     ThumbCells &cells;
+    SourceNames &sourceNames;
     Folders &folders;
     RecordFile &records;
     RecordUpdates &updates;

@@ -3,17 +3,13 @@
 
 #include "service/HeldFetch.h"
 #include "service/ServiceUrls.h"
+#include "service/SourceNames.h"
 #include "service/Then.h"
-
-#include <QMap>
 
 namespace moravel {
 
 class Files;
 class Folders;
-
-/// Short source name to long source name, in the order of the grid (plain string comparison).
-using SourceNames = QMap<QString, QString>;
 
 /// Reads a sources list: one source a line, long name, tab, short name. Reading stops at the first line
 /// without a tab, and at 1,000 sources (more would only exhaust the window).
@@ -23,14 +19,12 @@ SourceNames parseSources(const QString &text);
 class SourceList
 {
 public:
-    SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders);
+    /// Fills @p sourceNames.
+    SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders,
+               SourceNames &sourceNames);
 
     /// Asks the service, or takes the kept list when it does not answer.
     void getSources(const Then &then);
-
-    const SourceNames &sourceNames() const { return m_sourceNames; }
-
-    void setSourceNames(SourceNames names) { m_sourceNames = std::move(names); }
 
     void saveSourcesData(const QString &text);
     QString readSourcesData() const;
@@ -40,7 +34,7 @@ private:
     ServiceUrls m_urls;
     Files &m_files;
     Folders &m_folders;
-    SourceNames m_sourceNames;
+    SourceNames &m_sourceNames;
 };
 
 } // namespace moravel

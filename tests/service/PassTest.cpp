@@ -320,7 +320,7 @@ TEST(Sources, keptForAStartWithoutNetwork)
         w.file = [answer](const QString &) { return answer; };
         w.service->sources().getSources([&] { ++done; });
         w.run(0.1);
-        return w.service->sources().sourceNames();
+        return w.names;
     };
     EXPECT_TRUE(ask({{}, 500}).isEmpty());
     EXPECT_EQ(ask({" \nLong A\tA\nLong B\tB\n\n"}).size(), 2);

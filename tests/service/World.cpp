@@ -51,7 +51,7 @@ World::World(const QDateTime &start)
     file = [](const QString &) { return FakeHttp::Answer{"IMG picture bytes"}; };
     http.answer = [this](const HttpRequest &request) { return serve(request); };
     service = std::make_unique<PictureService>(
-        ServiceContext{platform, dates, picker, cells, folders, records_, updates, links, ports},
+        ServiceContext{platform, dates, picker, cells, names, folders, records_, updates, links, ports},
         QStringLiteral("http://service/potd"));
 }
 

@@ -15,10 +15,10 @@ class FakeHttp : public HttpClient
 public:
     struct Answer
     {
-        QByteArray body;
+        QByteArray body = {};
         int status = 200;
         qint64 expectedLength = -2; ///< -2: the true length.
-        QString failure; ///< Not empty: the request fails with this description.
+        QString failure = {}; ///< Not empty: the request fails with this description.
     };
 
     /// Answers a request; nothing lets it hang.
