@@ -63,7 +63,7 @@ QString normalisedCaption(QStringView caption)
 
 QString captionForCell(QStringView caption)
 {
-    const QString text = normalisedCaption(caption);
+    QString text = normalisedCaption(caption);
     if (text == u"Deleted.")
         return QStringLiteral("%1\n\nDouble-click to un-delete.").arg(text);
     return text;

@@ -10,6 +10,8 @@
 
 namespace moravel {
 
+// NOLINTBEGIN(readability-identifier-naming): the operations keep their established names
+
 /// Whether escaping writes units from 128 up that have no row in the table as "&#<decimal>;".
 enum class EscapingUnicode { No, Yes };
 
@@ -32,7 +34,10 @@ QString gtm_stringByEscapingForAsciiHTML(QStringView text);
 /// length.
 QString gtm_stringByUnescapingFromHTML(QStringView text);
 
-/// The same within \a text itself, which only ever gets shorter.
+// NOLINTEND(readability-identifier-naming)
+
+/// Does what gtm_stringByUnescapingFromHTML() does within \a text itself, which only ever gets
+/// shorter.
 void unescapeHTMLInPlace(QString &text);
 
 } // namespace moravel
