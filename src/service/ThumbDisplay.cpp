@@ -96,6 +96,10 @@ void ThumbDisplay::keep(const Job &job, const QByteArray &bytes, const Then &the
 
 void ThumbDisplay::load(const Job &job)
 {
+    if (job.path.isEmpty()) {
+        loadLargePic(job);
+        return;
+    }
     m_context.platform.images.load(job.path, ThumbBox, [this, job](const QImage &image) {
         if (image.isNull())
             loadLargePic(job);

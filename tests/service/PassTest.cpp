@@ -76,6 +76,7 @@ TEST(Pass, storedDaysNeedNoRequest)
     const auto requests = w.http.requests.size();
     // Back a day and forth again: only the other day is asked for.
     w.picker.setDateValue(w.loop.now().addDays(-1));
+    w.picker.userChangeDate = true;
     w.service->thumbPass().forgetLastDataCheck();
     w.startPass();
     EXPECT_EQ(w.http.posts().mid(3), (QStringList{body(Three[0], QStringLiteral("7/3/2011")), body(Three[1], QStringLiteral("7/3/2011")),
