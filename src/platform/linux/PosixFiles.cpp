@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/PosixFiles.h"
+
+#include "platform/linux/Posix.h"
+#include "platform/linux/PosixPart.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <functional>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace moravel {
+
+using posix::failed;
+using posix::nativePath;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcPlatform, "moravel.platform")
+
+constexpr qint64 largestCopy = 16 << 20; ///< Bytes; larger files are mapped.
+
+class CopiedBytes : public FileBytes
+{
+public:
+    CopiedBytes(std::unique_ptr<char[]> data, std::size_t size)
+        : m_data(std::move(data)), m_size(size)
+    { }
+
+    std::string_view bytes() const override { return {m_data.get(), m_size}; }
+
+private:
+    std::unique_ptr<char[]> m_data;
+    std::size_t m_size;
+};
+
+class MappedBytes : public FileBytes
+{
+public:
+    MappedBytes(void *data, std::size_t size) : m_data(data), m_size(size) { }
+
+    ~MappedBytes() override { ::munmap(m_data, m_size); }
+    Q_DISABLE_COPY_MOVE(MappedBytes)
+
+    std::string_view bytes() const override { return {static_cast<const char *>(m_data), m_size}; }
+
+private:
+    void *m_data;
+    std::size_t m_size;
+};
+
+FileResult<std::unique_ptr<FileBytes>> copyBytes(const QString &path, int fd, std::size_t size)
+{
+    auto data = std::make_unique_for_overwrite<char[]>(size);
+    std::size_t filled = 0;
+    while (filled < size) {
+        const ssize_t got = ::read(fd, data.get() + filled, size - filled);
+        if (got < 0 && errno != EINTR)
+            return failed(path, errno);
+        if (got == 0) // cut short meanwhile
+            break;
+        filled += got > 0 ? std::size_t(got) : 0;
+    }
+    return std::make_unique<CopiedBytes>(std::move(data), filled);
+}
+
+FileResult<std::unique_ptr<FileBytes>> mapBytes(const QString &path, int fd, std::size_t size)
+{
+    void *data = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
+    if (data == MAP_FAILED)
+        return failed(path, errno);
+    ::madvise(data, size, MADV_SEQUENTIAL);
+    return std::make_unique<MappedBytes>(data, size);
+}
+
+FileResult<struct stat> look(const QString &path)
+{
+    const auto native = nativePath(path);
+    if (!native)
+        return tl::make_unexpected(native.error());
+    struct stat info = {};
+    if (::stat(native->constData(), &info) != 0)
+        return failed(path, errno);
+    return info;
+}
+
+using EachName = std::function<void(const QByteArray &name, int folder)>;
+
+FileResult<void> forEachName(const QString &folder, const EachName &visit)
+{
+    const auto native = nativePath(folder);
+    if (!native)
+        return tl::make_unexpected(native.error());
+    const std::unique_ptr<DIR, int (*)(DIR *)> dir(::opendir(native->constData()), ::closedir);
+    if (!dir)
+        return failed(folder, errno);
+    while (true) {
+        errno = 0;
+        const dirent *entry = ::readdir(dir.get());
+        if (entry == nullptr)
+            break;
+        visit(entry->d_name, ::dirfd(dir.get()));
+    }
+    if (errno != 0)
+        return failed(folder, errno);
+    return {};
+}
+
+bool isPlain(int folder, const QByteArray &name, int flags)
+{
+    struct stat info = {};
+    return ::fstatat(folder, name.constData(), &info, flags) == 0 && S_ISREG(info.st_mode);
+}
+
+} // namespace
+
+StandardFolders PosixFiles::standardFolders() const
+{
+    const auto absolute = [](QStandardPaths::StandardLocation kind) {
+        QString path = QStandardPaths::writableLocation(kind);
+        while (path.endsWith(u'/'))
+            path.chop(1);
+        return path.startsWith(u'/') ? path : QString();
+    };
+    return {.pictures = absolute(QStandardPaths::PicturesLocation),
+            .applicationSupport = absolute(QStandardPaths::GenericDataLocation)};
+}
+
+bool PosixFiles::exists(const QString &path) const
+{
+    const auto native = nativePath(path);
+    struct stat info = {};
+    if (!native || ::stat(native->constData(), &info) == 0)
+        return native.has_value();
+    return errno != ENOENT && errno != ENOTDIR && errno != EACCES && errno != ENAMETOOLONG;
+}
+
+bool PosixFiles::isFolder(const QString &path) const
+{
+    const auto info = look(path);
+    return info && S_ISDIR(info->st_mode);
+}
+
+qint64 PosixFiles::size(const QString &path) const
+{
+    const auto info = look(path);
+    return info && S_ISREG(info->st_mode) ? qint64(info->st_size) : -1;
+}
+
+FileResult<QStringList> PosixFiles::list(const QString &folder) const
+{
+    QStringList names;
+    const auto read = forEachName(folder, [&names](const QByteArray &name, int dir) {
+        const QString text = QFile::decodeName(name);
+        // A name that is no text could not be opened again by its text.
+        if (!name.startsWith('.') && isPlain(dir, name, 0) && QFile::encodeName(text) == name)
+            names.append(text);
+    });
+    if (!read)
+        return tl::make_unexpected(read.error());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+FileResult<void> PosixFiles::makeFolder(const QString &path)
+{
+    const auto native = nativePath(path);
+    if (!native)
+        return tl::make_unexpected(native.error());
+    if (isFolder(path) || ::mkdir(native->constData(), 0777) == 0)
+        return {};
+    const int number = errno;
+    QString parent = path;
+    while (parent.endsWith(u'/'))
+        parent.chop(1);
+    parent.truncate(parent.lastIndexOf(u'/'));
+    if (number != ENOENT || parent.isEmpty())
+        return failed(path, number);
+    if (auto made = makeFolder(parent); !made)
+        return made;
+    if (::mkdir(native->constData(), 0777) != 0 && !isFolder(path))
+        return failed(path, errno);
+    return {};
+}
+
+FileResult<void> PosixFiles::move(const QString &from, const QString &to)
+{
+    const auto nativeFrom = nativePath(from);
+    if (!nativeFrom)
+        return tl::make_unexpected(nativeFrom.error());
+    const auto nativeTo = nativePath(to);
+    if (!nativeTo)
+        return tl::make_unexpected(nativeTo.error());
+    const int number = posix::renameNew(*nativeFrom, *nativeTo);
+    if (number == EXDEV)
+        return copyAndRemove(from, to);
+    if (number != 0)
+        return failed(number == EEXIST ? to : from, number);
+    if (!posix::syncFolderOf(*nativeTo) || !posix::syncFolderOf(*nativeFrom))
+        return failed(to, errno);
+    return {};
+}
+
+FileResult<void> PosixFiles::copyAndRemove(const QString &from, const QString &to)
+{
+    const auto source = open(from);
+    if (!source)
+        return tl::make_unexpected(source.error());
+    const std::string_view bytes = (*source)->bytes();
+    auto part = PosixPart::start(to);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    if (auto written = (*part)->append(std::span(&bytes, 1)); !written)
+        return written;
+    if (auto placed = (*part)->commitNew(); !placed)
+        return placed;
+    return remove(from);
+}
+
+FileResult<void> PosixFiles::remove(const QString &path)
+{
+    const auto native = nativePath(path);
+    if (!native)
+        return tl::make_unexpected(native.error());
+    if (::unlink(native->constData()) != 0)
+        return failed(path, errno);
+    return {};
+}
+
+FileResult<std::unique_ptr<FileBytes>> PosixFiles::open(const QString &path) const
+{
+    qint64 size = 0;
+    const auto fd = posix::openRegular(path, &size);
+    if (!fd)
+        return tl::make_unexpected(fd.error());
+    if (size <= largestCopy)
+        return copyBytes(path, fd->get(), std::size_t(size));
+    return mapBytes(path, fd->get(), std::size_t(size));
+}
+
+FileResult<void> PosixFiles::writeAtomically(const QString &path,
+                                             std::initializer_list<std::string_view> pieces)
+{
+    auto part = PosixPart::start(path);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    if (auto written = (*part)->append(std::span(pieces.begin(), pieces.size())); !written)
+        return written;
+    return (*part)->commit();
+}
+
+FileResult<std::unique_ptr<PartFile>> PosixFiles::startPart(const QString &target)
+{
+    auto part = PosixPart::start(target);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    return std::unique_ptr<PartFile>(std::move(*part));
+}
+
+void PosixFiles::removeParts(const QString &folder)
+{
+    const auto read = forEachName(folder, [&folder](const QByteArray &name, int dir) {
+        if (!PosixPart::isPartName(name) || !isPlain(dir, name, AT_SYMLINK_NOFOLLOW))
+            return;
+        if (::unlinkat(dir, name.constData(), 0) != 0)
+            qCWarning(lcPlatform) << "cannot remove" << name << "in" << folder
+                                  << qt_error_string(errno);
+    });
+    if (!read)
+        qCWarning(lcPlatform) << "cannot clear" << read.error().path << read.error().description;
+}
+
+} // namespace moravel

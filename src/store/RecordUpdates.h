@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace moravel {
+
+class Dates;
+class LegacyCaptions;
+class RecordFile;
+
+/// Changes to records that are already stored. A record without the field to change, and a key without
+/// record, are left alone.
+class RecordUpdates
+{
+public:
+    RecordUpdates(RecordFile &records, LegacyCaptions &legacy, const Dates &dates);
+
+    /// Stores a caption as given; it is one line without tabs.
+    void saveNewCaption(const QString &caption, const QString &forSource,
+                        const QString &onLocalDate);
+
+    /// Stores a descriptive text, line ends and pairs of spaces made into single spaces.
+    void saveNewTextData(const QString &text, const QString &forSource, const QString &onLocalDate);
+
+    /// Marks a picture as deleted; removes it from the legacy captions when it is known only there.
+    void storeDeletionForSource(const QString &source, const QString &onLocalDate);
+
+    /// Marks a picture as deleted and returns the thumbnail link it had, or "".
+    QString storeDeletionForFileNameAndReturnThumb(const QString &fileName);
+
+    /// Gives a picture a thumbnail link, which ends its being deleted.
+    void storeThumbForSource(const QString &source, const QString &onShortDate,
+                             const QString &withNewThumb);
+
+    /// Removes a record, so that it is fetched anew; removes it from the legacy captions when it is known
+    /// only there.
+    void deleteDataFor(const QString &source, const QString &onShortDate);
+
+private:
+    QString replaceField(const QString &record, int field, const QString &value);
+
+    RecordFile &m_records;
+    LegacyCaptions &m_legacy;
+    const Dates &m_dates;
+};
+
+} // namespace moravel

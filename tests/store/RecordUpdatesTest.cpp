@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "StoreWorld.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::Literals::StringLiterals;
+using moravel::RecordUpdates;
+using moravel::testing::StoreWorld;
+
+namespace {
+
+const QByteArray before = "20110703\tWiki\tt3\tp3\tw3\tc3\ti3\n";
+const QByteArray after = "20110705\tWiki\tt5\tp5\tw5\tc5\ti5\n";
+const QByteArray record = "20110704\tWiki\thttp://t/a.jpg\thttp://p/b.jpg\tpage\tcaption\tinfo";
+
+} // namespace
+
+TEST(RecordUpdatesTest, changeOneFieldInPlace)
+{
+    const QString source = u"Wiki"_s;
+    const QString local = u"July 4, 2011"_s;
+
+    const struct
+    {
+        const char *what;
+        std::function<void(RecordUpdates &)> update;
+        QByteArray result;
+    } cases[] = {
+        {"caption", [&](auto &u) { u.saveNewCaption(u" two  spaces "_s, source, local); },
+         "20110704\tWiki\thttp://t/a.jpg\thttp://p/b.jpg\tpage\t two  spaces \tinfo"},
+        {"caption with tab", [&](auto &u) { u.saveNewCaption(u"a\tb"_s, source, local); },
+         "20110704\tWiki\thttp://t/a.jpg\thttp://p/b.jpg\tpage\ta\tb\tinfo"},
+        {"text", [&](auto &u) { u.saveNewTextData(u" a\r\nb    c   d\te "_s, source, local); },
+         "20110704\tWiki\thttp://t/a.jpg\thttp://p/b.jpg\tpage\tcaption\t a b  c  d\te "},
+        {"deletion", [&](auto &u) { u.storeDeletionForSource(source, local); },
+         "20110704\tWiki\tDELETED\thttp://p/b.jpg\tpage\tcaption\tinfo"},
+        {"deletion by file",
+         [&](auto &u) {
+             EXPECT_EQ(u.storeDeletionForFileNameAndReturnThumb(u"b.jpg"_s), u"http://t/a.jpg"_s);
+         },
+         "20110704\tWiki\tDELETED\thttp://p/b.jpg\tpage\tcaption\tinfo"},
+        {"new thumb", [&](auto &u) { u.storeThumbForSource(source, u"7/4/2011"_s, u"new"_s); },
+         "20110704\tWiki\tnew\thttp://p/b.jpg\tpage\tcaption\tinfo"},
+        {"wrong forms of the date",
+         [&](auto &u) {
+             u.saveNewCaption(u"x"_s, source, u"7/4/2011"_s);
+             u.saveNewTextData(u"x"_s, source, u"20110704"_s);
+             u.storeDeletionForSource(source, u"4 July 2011"_s);
+             u.storeThumbForSource(source, local, u"x"_s);
+             u.deleteDataFor(source, local);
+         },
+         record},
+        {"unknown keys",
+         [&](auto &u) {
+             u.saveNewCaption(u"x"_s, u"Wik"_s, local);
+             u.storeThumbForSource(u"Wik"_s, u"7/4/2011"_s, u"x"_s);
+             u.deleteDataFor(u"Wik"_s, u"7/4/2011"_s);
+             EXPECT_EQ(u.storeDeletionForFileNameAndReturnThumb(u"none.jpg"_s), QString());
+         },
+         record},
+    };
+
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        StoreWorld w;
+        w.setData(before + record + '\n' + after);
+        c.update(w.updates);
+        EXPECT_EQ(w.data(), before + c.result + '\n' + after);
+        EXPECT_TRUE(w.takeAlerts().isEmpty());
+    }
+}
+
+TEST(RecordUpdatesTest, leaveShortRecordsAlone)
+{
+    StoreWorld w;
+    w.setData("20110704\tWiki\tthumb\n20110705\tWiki\t\n");
+    w.updates.saveNewCaption(u"x"_s, u"Wiki"_s, u"July 4, 2011"_s);
+    w.updates.saveNewTextData(u"x"_s, u"Wiki"_s, u"July 5, 2011"_s);
+    EXPECT_EQ(w.files.writes, 0);
+}
+
+TEST(RecordUpdatesTest, removeTheFirstRecordAndItsCopies)
+{
+    StoreWorld w;
+    const QByteArray other = "20110704\tWiki\tanother\n";
+    w.setData(before + record + '\n' + other + record + '\n' + after);
+    w.updates.deleteDataFor(u"Wiki"_s, u"7/4/2011"_s);
+    EXPECT_EQ(w.data(), before + other + after);
+    w.updates.deleteDataFor(u"Wiki"_s, u"7/4/2011"_s);
+    EXPECT_EQ(w.data(), before + after);
+}
+
+TEST(RecordUpdatesTest, fallBackToTheLegacyCaptions)
+{
+    const QByteArray line = "20110704\tThe Wiki\ta.jpg\tcaption";
+    for (const bool deletion : {true, false}) {
+        StoreWorld w;
+        w.sourceNames = {{u"Wiki"_s, u"The Wiki"_s}};
+        w.setData(before);
+        w.setLegacyData("first\r" + line + "\rlast");
+        if (deletion)
+            w.updates.storeDeletionForSource(u"Wiki"_s, u"July 4, 2011"_s);
+        else
+            w.updates.deleteDataFor(u"Wiki"_s, u"7/4/2011"_s);
+        EXPECT_EQ(w.legacyData(), "first\rlast");
+        EXPECT_EQ(w.data(), before);
+    }
+}
