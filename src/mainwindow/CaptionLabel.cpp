@@ -19,6 +19,13 @@ constexpr int LongestLine =
     300; // characters that a line of a label can show at most, with room to spare
 constexpr int LongestToolTip = 1500;
 
+QString withoutBreak(QString line)
+{
+    if (line.endsWith(QChar::LineSeparator))
+        line.chop(1);
+    return line;
+}
+
 } // namespace
 
 QString plainToolTip(const QString &text)
@@ -35,8 +42,10 @@ QString plainToolTip(const QString &text)
 CaptionLabel::CaptionLabel(int maximumLines, QWidget *parent)
     : QWidget(parent), m_maximumLines(maximumLines)
 {
-    QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    policy.setHeightForWidth(true);
+    const bool fill = maximumLines == FillHeight;
+    QSizePolicy policy(QSizePolicy::Ignored,
+                       fill ? QSizePolicy::Expanding : QSizePolicy::Preferred);
+    policy.setHeightForWidth(!fill);
     setSizePolicy(policy);
 }
 
@@ -57,6 +66,12 @@ void CaptionLabel::setSecondary(bool secondary)
     update();
 }
 
+void CaptionLabel::setPlaceholder(const QString &placeholder)
+{
+    m_placeholder = placeholder;
+    update();
+}
+
 bool CaptionLabel::isElided() const
 {
     return layoutFor(width(), linesThatFit()).elided;
@@ -64,7 +79,8 @@ bool CaptionLabel::isElided() const
 
 int CaptionLabel::linesThatFit() const
 {
-    return std::clamp(height() / fontMetrics().lineSpacing(), 1, m_maximumLines);
+    const int fitting = std::max(1, height() / fontMetrics().lineSpacing());
+    return m_maximumLines == FillHeight ? fitting : std::min(fitting, m_maximumLines);
 }
 
 const CaptionLabel::Layout &CaptionLabel::layoutFor(int width, int most) const
@@ -74,7 +90,7 @@ const CaptionLabel::Layout &CaptionLabel::layoutFor(int width, int most) const
     m_layoutWidth = width;
     m_layoutLines = most;
     m_layout = {};
-    QString text = m_text.left(LongestLine * m_maximumLines);
+    QString text = m_text.left(LongestLine * most);
     text.replace(u'\n', QChar::LineSeparator);
     QTextLayout layout(text, font());
     QTextOption option;
@@ -84,10 +100,10 @@ const CaptionLabel::Layout &CaptionLabel::layoutFor(int width, int most) const
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
         if (m_layout.lines.size() + 1 < most) {
-            m_layout.lines += text.mid(line.textStart(), line.textLength());
+            m_layout.lines += withoutBreak(text.mid(line.textStart(), line.textLength()));
             continue;
         }
-        QString rest = text.mid(line.textStart());
+        QString rest = withoutBreak(text.mid(line.textStart()));
         m_layout.elided = line.textStart() + line.textLength() < text.size();
         if (m_layout.elided) {
             rest.replace(QChar::LineSeparator, u' ');
@@ -122,8 +138,13 @@ void CaptionLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor text = palette().color(foregroundRole());
-    painter.setPen(m_secondary ? blend(text, palette().color(QPalette::Base), 0.62) : text);
-    const bool rightToLeft = m_text.isEmpty() ? isRightToLeft() : m_text.isRightToLeft();
+    const QColor quiet = blend(text, palette().color(QPalette::Base), 0.62);
+    painter.setPen(m_secondary || m_text.isEmpty() ? quiet : text);
+    if (m_text.isEmpty()) {
+        painter.drawText(rect(), Qt::AlignCenter, m_placeholder);
+        return;
+    }
+    const bool rightToLeft = m_text.isRightToLeft();
     painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     const int flags = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignAbsolute
         | (rightToLeft ? Qt::AlignRight : Qt::AlignLeft);

@@ -12,6 +12,8 @@ class CaptionLabel : public QWidget
     Q_OBJECT
 
 public:
+    /// A label of at least one line; with FillHeight it shows as many lines as its height allows.
+    static constexpr int FillHeight = 0;
     explicit CaptionLabel(int maximumLines, QWidget *parent = nullptr);
 
     void setText(const QString &text);
@@ -23,7 +25,8 @@ public:
     /// Draws in the quieter colour of secondary text.
     void setSecondary(bool secondary);
 
-    bool hasHeightForWidth() const override { return true; }
+    /// Sets a hint that stands in the label, in the colour of secondary text, while it is empty.
+    void setPlaceholder(const QString &placeholder);
 
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
@@ -52,6 +55,7 @@ private:
 
     int m_maximumLines;
     bool m_secondary = false;
+    QString m_placeholder;
     QString m_text;
     mutable int m_layoutWidth = -1;
     mutable int m_layoutLines = -1;

@@ -21,14 +21,15 @@ namespace {
 
 // The card leaves room around itself: the first row touches the upper edge of the grid.
 constexpr int CardTop = 14;
+constexpr int DesktopCardTop = 5; // in the side bar, level with the first row of the grid
 constexpr int CardBottom = 4;
+constexpr int CardSide = 2; // room for the focus ring
 constexpr int PictureHeight = 150;
 constexpr int TextMargin = 11;
-constexpr int CaptionLines = 5;
 
-QRectF cardOf(const QWidget &cell)
+int cardTop(const ThumbView &view)
 {
-    return QRectF(cell.rect()).adjusted(0.5, CardTop - 0.5, -0.5, -CardBottom - 0.5);
+    return view.tag() == ThumbView::DesktopTag ? DesktopCardTop : CardTop;
 }
 
 } // namespace
@@ -36,7 +37,7 @@ QRectF cardOf(const QWidget &cell)
 CellWidget::CellWidget(ThumbView &view, QWidget *parent) : QWidget(parent), m_view(view)
 {
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins(1, CardTop, 1, CardBottom + 6);
+    column->setContentsMargins(CardSide + 1, cardTop(m_view) + 1, CardSide + 1, CardBottom + 8);
     column->setSpacing(0);
     buildPicture();
     buildTexts();
@@ -79,17 +80,18 @@ void CellWidget::buildTexts()
     QFont bold = font();
     bold.setBold(true);
     m_sourceField->setFont(bold);
+    if (m_view.tag() == ThumbView::DesktopTag)
+        m_sourceField->setPlaceholder(tr("Current desktop"));
     m_dateField = new CaptionLabel(1, this);
     m_dateField->setObjectName(QStringLiteral("dateField"));
     m_dateField->setSecondary(true);
-    m_captionField = new CaptionLabel(CaptionLines, this);
+    m_captionField = new CaptionLabel(CaptionLabel::FillHeight, this);
     m_captionField->setObjectName(QStringLiteral("captionField"));
     connect(m_captionField, &CaptionLabel::clicked, &m_view, &ThumbView::refreshCaption);
     texts->addWidget(m_sourceField);
     texts->addWidget(m_dateField);
     texts->addSpacing(6);
-    texts->addWidget(m_captionField);
-    texts->addStretch(1);
+    texts->addWidget(m_captionField, 1);
     static_cast<QVBoxLayout *>(layout())->addLayout(texts, 1);
 }
 
@@ -218,7 +220,8 @@ void CellWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     constexpr double Radius = PictureView::CornerRadius + 0.5;
-    const QRectF card = cardOf(*this);
+    const QRectF card = QRectF(rect()).adjusted(CardSide + 0.5, cardTop(m_view) + 0.5,
+                                                -CardSide - 0.5, -CardBottom - 0.5);
     painter.setPen(Qt::NoPen);
     for (const double spread : {3.0, 2.0, 1.0}) { // a soft shadow, a little below
         painter.setBrush(QColor(0, 0, 0, 9));
@@ -233,7 +236,7 @@ void CellWidget::paintEvent(QPaintEvent *)
     if (m_clicker->hasFocus()) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRoundedRect(card.adjusted(0.5, -1, -0.5, 1), Radius, Radius);
+        painter.drawRoundedRect(card.adjusted(-1, -1, 1, 1), Radius + 1, Radius + 1);
     }
 }
 

@@ -22,7 +22,7 @@ QPalette FlippedClipView::lightPalette()
         palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x8a, 0x8e));
     palette.setColor(QPalette::Window, grey);
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Button, QColor(0xf4, 0xf4, 0xf4));
+    palette.setColor(QPalette::Button, QColor(0xe9, 0xe9, 0xe9));
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText, QPalette::Link})
         palette.setColor(role, QGuiApplication::palette().color(role));
     return palette;

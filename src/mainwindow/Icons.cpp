@@ -52,10 +52,12 @@ public:
 
     QPixmap scaledPixmap(const QSize &size, QIcon::Mode mode, QIcon::State, qreal scale) override
     {
-        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const auto role =
-            mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
-        const QColor colour = QGuiApplication::palette().color(group, role);
+        const QPalette palette = QGuiApplication::palette();
+        const bool selected = mode == QIcon::Selected;
+        QColor colour = palette.color(QPalette::Active,
+                                      selected ? QPalette::HighlightedText : QPalette::ButtonText);
+        if (mode == QIcon::Disabled)
+            colour = blend(colour, palette.color(QPalette::Window), 0.35);
         const int pixels = std::min(size.width(), size.height());
         return iconPixmap(m_name, qRound(pixels / scale), colour, scale);
     }

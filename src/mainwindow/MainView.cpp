@@ -4,17 +4,39 @@
 #include "mainwindow/CaptionLabel.h"
 #include "mainwindow/GridLayout.h"
 #include "mainwindow/GridView.h"
+#include "mainwindow/Icons.h"
 
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace moravel {
+
+namespace {
+
+/// The strip of the status line, set off from the grid by a hair line.
+class StatusStrip : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(
+            0, 0, width(), 1,
+            blend(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.15));
+    }
+};
+
+} // namespace
 
 MainView::MainView(QWidget *parent)
     : QWidget(parent), m_grid(new GridView(this)), m_statusBar(new CaptionLabel(1, this))
 {
     setObjectName(QStringLiteral("mainView"));
     m_statusBar->setObjectName(QStringLiteral("statusBar"));
-    auto *strip = new QWidget(this);
+    auto *strip = new StatusStrip(this);
     strip->setFixedHeight(grid::StatusHeight);
     auto *row = new QHBoxLayout(strip);
     row->setContentsMargins(12, 0, 12, 0);

@@ -13,6 +13,17 @@ namespace {
 
 constexpr double LargestEnlargement = 3; // a tiny picture is not blown up to a blur
 
+/// Round above; below, the text continues the card.
+QPainterPath roundedArea(const QRect &rect)
+{
+    constexpr int Radius = PictureView::CornerRadius;
+    QPainterPath area;
+    area.addRoundedRect(QRectF(rect).adjusted(0, 0, 0, Radius), Radius, Radius);
+    QPainterPath visible;
+    visible.addRect(rect);
+    return area.intersected(visible);
+}
+
 } // namespace
 
 PictureView::PictureView(QWidget *parent) : QWidget(parent)
@@ -47,8 +58,16 @@ void PictureView::refreshScaled()
                              .expandedTo({1, 1});
     if (m_scaled.size() == wanted && m_scaled.devicePixelRatio() == scale)
         return;
-    m_scaled =
-        QPixmap::fromImage(m_image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    QImage scaled = m_image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&scaled); // cut the round corners out once, rather than at each painting
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.translate((wanted.width() - room.width()) / 2, (wanted.height() - room.height()) / 2);
+    painter.scale(scale, scale);
+    painter.fillPath(roundedArea(rect()), Qt::black);
+    painter.end();
+    m_scaled = QPixmap::fromImage(std::move(scaled));
     m_scaled.setDevicePixelRatio(scale);
 }
 
@@ -56,21 +75,15 @@ void PictureView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QPainterPath area; // round above; the text below continues the card
-    area.addRoundedRect(QRectF(rect()).adjusted(0, 0, 0, CornerRadius), CornerRadius, CornerRadius);
-    painter.setClipRect(rect());
     const QColor text = palette().color(QPalette::Text);
     const QColor base = palette().color(QPalette::Base);
-    painter.fillPath(area, blend(text, base, 0.07));
+    painter.fillPath(roundedArea(rect()), blend(text, base, 0.07));
     if (!m_image.isNull()) {
         refreshScaled();
-        const QSizeF shown = m_scaled.deviceIndependentSize();
-        const QPointF at((width() - shown.width()) / 2, (height() - shown.height()) / 2);
-        QBrush brush(m_scaled);
-        brush.setTransform(QTransform::fromTranslate(at.x(), at.y()));
-        QPainterPath picture;
-        picture.addRect({at, shown});
-        painter.fillPath(picture.intersected(area), brush);
+        const qreal scale = devicePixelRatioF();
+        const QSize spare = size() * scale - m_scaled.size();
+        const QPoint at(spare.width() / 2, spare.height() / 2); // in whole device pixels
+        painter.drawPixmap(QPointF(at) / scale, m_scaled);
     } else if (m_placeholderShown) {
         constexpr int Points = 40;
         const QPixmap icon = iconPixmap(QStringLiteral("picture"), Points, blend(text, base, 0.22),

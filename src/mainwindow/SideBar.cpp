@@ -64,8 +64,9 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
     column->addSpacing(4);
     column->addWidget(makeLongDate(datePicker, this));
     column->addWidget(makeDateRow(datePicker, actions));
-    column->addWidget(makeButton(QStringLiteral("todayButton"), actions.today, this), 0,
-                      Qt::AlignHCenter);
+    QToolButton *today = makeButton(QStringLiteral("todayButton"), actions.today, this);
+    today->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    column->addWidget(today, 0, Qt::AlignHCenter);
     column->addStretch(1);
 }
 

@@ -21,6 +21,7 @@ namespace {
 constexpr int CardWidth = 500;
 constexpr int ColumnWidth = 205;
 constexpr int SourcesForTwoColumns = 7;
+constexpr int WidthForTwoColumns = 540;
 
 class Card : public QWidget
 {
@@ -37,6 +38,23 @@ protected:
         painter.setPen(blend(palette().color(QPalette::Text), base, 0.14));
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 12, 12);
     }
+};
+
+/// As tall as its content where there is room, else it scrolls.
+class CheckList : public QScrollArea
+{
+public:
+    CheckList()
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    }
+
+    QSize sizeHint() const override { return widget()->sizeHint(); }
+
+    QSize minimumSizeHint() const override { return {120, 60}; }
 };
 
 QLabel *makeText(const QString &text, QWidget *parent)
@@ -80,8 +98,11 @@ void WelcomePanel::buildCard(const QStringList &longNames)
     connect(m_showButton, &QPushButton::clicked, this,
             [this] { Q_EMIT sourcesChosen(tickedTags()); });
     column->addWidget(m_showButton, 0, Qt::AlignRight);
-    content()->addWidget(card);
-    content()->setAlignment(card, Qt::AlignHCenter);
+    auto *middle = new QHBoxLayout;
+    middle->addStretch(1);
+    middle->addWidget(card, 1000);
+    middle->addStretch(1);
+    content()->addLayout(middle);
 }
 
 QCheckBox *WelcomePanel::createButtonWithTitle(const QString &longName, int index)
@@ -105,24 +126,45 @@ QCheckBox *WelcomePanel::createButtonWithTitle(const QString &longName, int inde
 QWidget *WelcomePanel::makeList(const QStringList &longNames)
 {
     auto *list = new QWidget;
-    auto *cells = new QGridLayout(list);
-    cells->setContentsMargins(0, 0, 0, 0);
-    cells->setHorizontalSpacing(16);
-    cells->setVerticalSpacing(6);
-    const auto count = static_cast<int>(longNames.size());
-    const int columns = count < SourcesForTwoColumns ? 1 : 2;
-    const int rows = (count + columns - 1) / columns;
-    for (int i = 0; i < count; ++i) // down the first column, then down the second
-        cells->addWidget(createButtonWithTitle(longNames.at(i), i), i % rows, i / rows);
-    auto *scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *top = new QVBoxLayout(list);
+    top->setContentsMargins(0, 0, 0, 0);
+    m_checkCells = new QGridLayout;
+    top->addLayout(m_checkCells);
+    top->addStretch(1);
+    m_checkCells->setContentsMargins(0, 0, 0, 0);
+    m_checkCells->setHorizontalSpacing(16);
+    m_checkCells->setVerticalSpacing(6);
+    for (int i = 0; i < longNames.size(); ++i)
+        createButtonWithTitle(longNames.at(i), i);
+    arrange(1);
+    auto *scroll = new CheckList;
+    m_list = scroll;
     scroll->setWidget(list);
     scroll->viewport()->setAutoFillBackground(false);
     list->setAutoFillBackground(false);
     return scroll;
+}
+
+void WelcomePanel::arrange(int columns)
+{
+    if (columns == m_columns)
+        return;
+    m_columns = columns;
+    const auto count = static_cast<int>(m_checks.size());
+    const int rows = (count + columns - 1) / columns;
+    for (int i = 0; i < count; ++i) { // down the first column, then down the second
+        m_checkCells->removeWidget(m_checks.at(i));
+        m_checkCells->addWidget(m_checks.at(i), i % rows, i / rows);
+    }
+    if (m_list)
+        m_list->updateGeometry();
+}
+
+void WelcomePanel::resizeEvent(QResizeEvent *event)
+{
+    GridPanel::resizeEvent(event);
+    const bool two = m_checks.size() >= SourcesForTwoColumns && width() >= WidthForTwoColumns;
+    arrange(two ? 2 : 1);
 }
 
 QList<int> WelcomePanel::tickedTags() const

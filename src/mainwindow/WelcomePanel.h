@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class QCheckBox;
+class QGridLayout;
 class QPushButton;
 
 namespace moravel {
@@ -26,14 +27,19 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QCheckBox *createButtonWithTitle(const QString &longName, int index);
     QWidget *makeList(const QStringList &longNames);
+    void arrange(int columns);
     void buildCard(const QStringList &longNames);
     QList<int> tickedTags() const;
 
     QList<QCheckBox *> m_checks;
+    QWidget *m_list = nullptr;
+    QGridLayout *m_checkCells = nullptr;
+    int m_columns = 0;
     QPushButton *m_showButton = nullptr;
 };
 

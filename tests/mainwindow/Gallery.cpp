@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+// Developer's tool: fills the main window with made-up cells and saves pictures of its states.
+//   gallery FOLDER            (QT_QPA_PLATFORM, QT_SCALE_FACTOR, LANG as wanted)
+#include "WindowFixture.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTest>
+
+using namespace moravel;
+using namespace moravel::testing;
+
+namespace {
+
+QImage picture(QSize size, int hue)
+{
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0, 0, 0, size.height());
+    sky.setColorAt(0, QColor::fromHsv(hue, 170, 120));
+    sky.setColorAt(0.7, QColor::fromHsv((hue + 40) % 360, 110, 235));
+    painter.fillRect(image.rect(), sky);
+    painter.setBrush(QColor(255, 245, 220));
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPointF(size.width() * 0.7, size.height() * 0.35), size.height() * 0.1,
+                        size.height() * 0.1);
+    for (int k = 0; k < 3; ++k) {
+        QPolygonF hill;
+        hill << QPointF(0, size.height());
+        for (int x = 0; x <= 20; ++x)
+            hill << QPointF(size.width() * x / 20.0,
+                            size.height() * (0.55 + 0.14 * k - 0.06 * ((x * (k + 3)) % 7) / 4.0));
+        hill << QPointF(size.width(), size.height());
+        painter.setBrush(QColor::fromHsv((hue + 80) % 360, 120, 130 - 35 * k));
+        painter.drawPolygon(hill);
+    }
+    return image;
+}
+
+const char *const Names[] = {"Astronomy Picture of the Day",
+                             "Bing",
+                             "Earth Observatory Image of the Day",
+                             "National Parks",
+                             "Moon Phase",
+                             "Fractal of the Day",
+                             "Wikimedia Commons Picture of the Day",
+                             "Sky Tonight",
+                             "Tagesbild der Bundesanstalt f\u00fcr Gew\u00e4sserkunde",
+                             "Satellite",
+                             "Art Institute",
+                             "Maps",
+                             "Birds",
+                             "Webb",
+                             "Sunrise & Sunset"};
+const char *const Captions[] = {
+    "The Pillars of Creation in infrared light, seen with a mosaic of forty exposures that "
+    "together took "
+    "more than a day of observing time and a year of careful processing by amateurs.",
+    "A quiet harbour.", "Deleted.\n\nDouble-click to un-delete.",
+    "Donaudampfschifffahrtsgesellschaftskapit\u00e4nsm\u00fctzenabzeichen am Flu\u00df",
+    "\u0645\u0634\u0647\u062f \u0644\u0644\u0642\u0645\u0631 \u0641\u0648\u0642 "
+    "\u0627\u0644\u0635\u062d\u0631\u0627\u0621 \u0641\u064a "
+    "\u0644\u064a\u0644\u0629 \u0635\u0627\u0641\u064a\u0629"};
+
+void fill(WindowFixture &w)
+{
+    const QSize sizes[] = {{800, 600}, {1600, 900}, {600, 900}, {2000, 500}, {500, 500}, {90, 68}};
+    for (int i = 0; i < w.cells.count(); ++i) {
+        ThumbView &cell = w.cells.at(i);
+        cell.showDate(QStringLiteral("July 4, 2011"));
+        cell.showCaption(QString::fromUtf8(Captions[i % 5]));
+        if (i % 5 == 2)
+            cell.showThumbImage(w.cells.images().trashcan, ThumbView::deletedMark());
+        else if (i == 7) {
+            cell.showCaption(QStringLiteral("Looking for new pic..."));
+            cell.blankImage();
+        } else if (i != 9)
+            cell.showThumbImage(picture(sizes[i % 6], i * 47 % 360),
+                                QStringLiteral("http://x/%1").arg(i));
+    }
+    ThumbView &desktop = w.cells.desktopThumb();
+    desktop.showSource(QStringLiteral("Bing"), QStringLiteral("bing"));
+    desktop.showDate(QStringLiteral("July 3, 2011"));
+    desktop.showCaption(QString::fromUtf8(Captions[0]));
+    desktop.showThumbImage(picture({1600, 900}, 200), QStringLiteral("http://x/d"));
+    w.window->setNextChange(QStringLiteral("Desktop changes in 42 minutes"));
+    w.window->showStatus(QStringLiteral("Double-click any thumbnail to set as desktop."));
+}
+
+QMap<QString, QString> names(int count)
+{
+    QMap<QString, QString> map;
+    for (int i = 0; i < count; ++i)
+        map.insert(QStringLiteral("s%1").arg(i, 2, 10, QChar(u'0')),
+                   QString::fromUtf8(Names[i % 15]));
+    return map;
+}
+
+ThumbCommands commands()
+{
+    const auto nothing = [](ThumbView &) {};
+    return {nothing, nothing, nothing, nothing, nothing, nothing, nothing, nothing};
+}
+
+void save(QWidget &window, const QString &name)
+{
+    QTest::qWait(150);
+    window.grab().save(name + QStringLiteral(".png"));
+}
+
+void shoot(const QString &prefix)
+{
+    {
+        WindowFixture w(commands());
+        w.window->show();
+        save(*w.window, prefix + QStringLiteral("loading"));
+        w.sources->drawCheckboxesAndThumbs(names(15));
+        save(*w.window, prefix + QStringLiteral("welcome"));
+        w.sources->switchAll(true);
+        save(*w.window, prefix + QStringLiteral("waiting"));
+        w.toolTips->readTooltipOptions();
+        fill(w);
+        w.window->activateWindow();
+        QTest::mouseMove(w.cell(5), {100, 100});
+        w.find<QWidget>("clicker", w.cell(1))->setFocus();
+        save(*w.window, prefix + QStringLiteral("full"));
+        w.window->resize(500, 640);
+        save(*w.window, prefix + QStringLiteral("narrow"));
+        w.sources->switchAll(false);
+        w.window->resize(900, 640);
+        save(*w.window, prefix + QStringLiteral("nothing"));
+    }
+    WindowFixture w;
+    w.window->show();
+    w.sources->drawCheckboxesAndThumbs({});
+    save(*w.window, prefix + QStringLiteral("noservice"));
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(0x2d, 0x2d, 0x30));
+    palette.setColor(QPalette::Base, QColor(0x1f, 0x1f, 0x22));
+    palette.setColor(QPalette::Highlight, QColor(0x35, 0x84, 0xe4));
+    return palette;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QString folder = app.arguments().value(1, QStringLiteral("."));
+    QDir().mkpath(folder);
+    shoot(folder + QStringLiteral("/light-"));
+    app.setPalette(darkPalette());
+    shoot(folder + QStringLiteral("/dark-"));
+    app.setPalette(app.style()->standardPalette());
+    app.setLayoutDirection(Qt::RightToLeft);
+    shoot(folder + QStringLiteral("/rtl-"));
+    return 0;
+}
