@@ -9,11 +9,11 @@ namespace moravel::server {
 namespace {
 
 /// The size is told before the picture is made, and must be the same each time it is asked for:
-/// clients choose by it which picture to fetch. Three tenths of a byte a pixel is what computed
-/// pictures need.
+/// clients choose by it which picture to fetch. Real ones take from a twentieth to a quarter of a
+/// byte a pixel.
 double estimatedMegabytes(QSize size)
 {
-    constexpr double bytesPerPixel = 0.3;
+    constexpr double bytesPerPixel = 0.2;
     return size.width() * size.height() * bytesPerPixel / 1e6;
 }
 

@@ -13,7 +13,7 @@ constexpr const char *allLines = "http://h:1/potd/pages/fake-20110704-page.html\
                                  "http://h:1/potd/pictures/fake-20110704-thumb.jpg\n"
                                  "http://h:1/potd/pictures/fake-20110704-1920x1080.jpg\n"
                                  "http://h:1/potd/pictures/fake-20110704-3840x2160.jpg\n"
-                                 "3840,2160,2.49\n"
+                                 "3840,2160,1.66\n"
                                  "It is red. Made here.\n";
 
 }
