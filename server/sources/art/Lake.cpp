@@ -37,7 +37,7 @@ Rgb waterAt(const LandscapeScene &scene, const Pixels &pixels, int x, float u, f
         water = water + scene.mood.sun * (0.85F * sparkle * std::min(1.0F, 0.25F + scene.glow));
     }
     const float shore = expOf(-near * 240.0F);
-    return mix(water, scene.mood.mist, 0.55F * shore);
+    return mix(water, scene.mood.mist, 0.35F * shore);
 }
 
 } // namespace

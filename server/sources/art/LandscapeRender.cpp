@@ -28,7 +28,7 @@ Rgb backgroundAt(const LandscapeScene &scene, const std::vector<Crest> &crests, 
         const float cover = coverOf(layer);
         if (cover <= 0)
             continue;
-        const float depth = std::max(0.0F, v - crests[layer].v[x]);
+        const float depth = v - crests[layer].v[x];
         colour = mix(colour, landAt(scene, scene.ridges[layer], u, v, depth, pixel), cover);
     }
     return colour;

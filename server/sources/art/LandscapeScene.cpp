@@ -62,6 +62,10 @@ void setLight(LandscapeScene &scene, Random &random)
     // 45° over the height of the picture; the disc is shown larger than life, as painters do.
     scene.lightV = scene.horizon - static_cast<float>(scene.sunAltitude / 45);
     scene.discRadius = scene.sunAltitude > -1 ? 0.032F : 0;
+    if (scene.hour == Hour::Day) { // high and beside the picture: nothing dazzles
+        scene.lightU = static_cast<float>(side * random.between(1.0, 1.3));
+        scene.discRadius = 0;
+    }
     scene.moonlit = scene.hour == Hour::Night && scene.moonNight.lit > 0.12;
     const bool dim = scene.hour == Hour::Night;
     scene.glow = scene.hour == Hour::Dusk ? 0.75F : scene.hour == Hour::Day ? 0.55F : 1.0F;
@@ -88,8 +92,8 @@ Ridge ridgeAt(const LandscapeScene &scene, float place, Random &random)
     Ridge ridge;
     ridge.seed = static_cast<std::uint32_t>(random.next());
     ridge.offset = random.betweenF(-40, 40);
-    ridge.distance = 0.93F - 0.86F * place;
-    ridge.mist = (scene.misty ? 0.75F : 0.38F) * (1.0F - 0.55F * place);
+    ridge.distance = 0.03F + 0.84F * (1.0F - place) * (1.0F - 0.3F * place);
+    ridge.mist = (scene.misty ? 0.8F : 0.25F) * (1.0F - 0.8F * place);
     return ridge;
 }
 
@@ -118,8 +122,8 @@ Ridge woodsAt(const LandscapeScene &scene, float place, float base, float height
     ridge.height = height;
     ridge.frequency = random.betweenF(0.6F, 1.3F);
     ridge.rocky = random.betweenF(0.1F, 0.4F);
+    ridge.tilt = random.betweenF(-0.5F, 0.5F);
     ridge.trees = 0.010F + 0.045F * place * place;
-    ridge.relief = 0.25F;
     ridge.land = fromHex(growth.woods);
     ridge.accent = fromHex(growth.accent);
     ridge.accents = growth.accents;
@@ -134,7 +138,7 @@ Ridge meadowAt(const LandscapeScene &scene, float place, float base, float heigh
     ridge.height = height;
     ridge.frequency = random.betweenF(0.5F, 0.9F);
     ridge.rocky = 0;
-    ridge.relief = 0.35F;
+    ridge.tilt = random.betweenF(-0.6F, 0.6F);
     ridge.land = adjusted(fromHex(growth.meadow), random.betweenF(0.9F, 1.08F), 1);
     return ridge;
 }
@@ -148,10 +152,10 @@ void plantTrees(LandscapeScene &scene, int count, float foot, Random &random)
         const double reach = random.unit();
         Tree tree;
         tree.seed = static_cast<std::uint32_t>(random.next());
-        tree.u = static_cast<float>(side * (0.92 - 0.50 * reach * reach));
-        const double tall = 0.16 + 0.30 * (1 - reach) * random.between(0.5, 1.0);
+        tree.u = static_cast<float>(side * (0.93 - 0.42 * reach * reach));
+        const double tall = 0.14 + 0.44 * (1 - reach) * random.between(0.45, 1.0);
         tree.height = static_cast<float>(tall);
-        tree.v = foot + random.betweenF(0.0F, 0.05F);
+        tree.v = foot + random.betweenF(0.0F, 0.07F);
         tree.golden = scene.season == Season::Autumn && random.chance(0.35);
         scene.trees.push_back(tree);
     }
@@ -178,13 +182,13 @@ void composeLake(LandscapeScene &scene, const Growth &growth, Random &random)
     scene.ridges.push_back(mountainAt(scene, 0.32F, scene.lake, random.betweenF(0.28F, 0.42F), random));
     scene.ridges.back().valley = 0.25F;
     for (int i = 0; i < 3; ++i) {
-        const float place = 0.45F + 0.13F * static_cast<float>(i);
+        const float place = 0.55F + 0.17F * static_cast<float>(i);
         Ridge ridge = woodsAt(scene, place, scene.lake + 0.012F, 0.10F - 0.027F * static_cast<float>(i), growth, random);
         ridge.valley = 0.7F;
-        ridge.trees *= 0.8F;
+        ridge.trees = 0.016F + 0.006F * static_cast<float>(i);
         scene.ridges.push_back(ridge);
     }
-    plantTrees(scene, 16, 1.01F, random);
+    plantTrees(scene, 22, 1.01F, random);
 }
 
 void composeValley(LandscapeScene &scene, const Growth &growth, Random &random)
@@ -199,7 +203,7 @@ void composeValley(LandscapeScene &scene, const Growth &growth, Random &random)
         ridge.valley = 1.6F + 0.25F * static_cast<float>(i);
         scene.ridges.push_back(ridge);
     }
-    plantTrees(scene, 9, 1.04F, random);
+    plantTrees(scene, 12, 1.03F, random);
 }
 
 void composeHills(LandscapeScene &scene, const Growth &growth, Random &random)
@@ -207,11 +211,12 @@ void composeHills(LandscapeScene &scene, const Growth &growth, Random &random)
     scene.ridges.push_back(mountainAt(scene, 0.02F, scene.horizon + 0.02F, random.betweenF(0.12F, 0.2F), random));
     for (int i = 0; i < 6; ++i) {
         const float place = 0.22F + 0.145F * static_cast<float>(i);
-        const float base = scene.horizon + 0.05F + 0.075F * static_cast<float>(i);
-        scene.ridges.push_back(i % 2 == 0 ? woodsAt(scene, place, base, 0.11F, growth, random)
-                                          : meadowAt(scene, place, base + 0.02F, 0.12F, growth, random));
+        const float height = random.betweenF(0.18F, 0.30F);
+        const float base = scene.horizon + 0.02F + 0.065F * static_cast<float>(i) + 0.45F * height;
+        scene.ridges.push_back(i % 2 == 0 ? woodsAt(scene, place, base, height * 0.8F, growth, random)
+                                          : meadowAt(scene, place, base, height, growth, random));
     }
-    plantTrees(scene, 6, 1.03F, random);
+    plantTrees(scene, 9, 1.03F, random);
 }
 
 } // namespace

@@ -38,6 +38,7 @@ struct Ridge {
     float frequency = 1;     ///< Crests a picture height.
     float offset = 0;        ///< Where in the noise it begins.
     float valley = 0;        ///< How far its sides rise towards the edges of the picture.
+    float tilt = 0;          ///< How far it rises from the left to the right.
     float rocky = 1;         ///< 1 a jagged range, 0 soft hills.
     float trees = 0;         ///< Height of the trees on its crest.
     float distance = 0.5F;   ///< 0 close by … 1 on the horizon: how much haze lies before it.
