@@ -55,7 +55,7 @@ MareField::MareField()
 MareSample MareField::at(const Vec3f &place) const
 {
     const Vec3f p = warped(place);
-    const float fray = 1.5f * fractalNoise(place * 17.0f, 5);
+    const float fray = 2.3f * fractalNoise(place * 15.0f, 6);
     float level = outside, weights = 1e-6f, rim = 0;
     MareSample sample{};
     for (const Ellipse &ellipse : m_ellipses) {
@@ -73,7 +73,7 @@ MareSample MareField::at(const Vec3f &place) const
         const float crest = (edge + 1.3f) / 1.6f;
         rim = std::max(rim, ellipse.rimKm / (1 + crest * crest * crest * crest));
     }
-    sample.cover = 0.85f * smoothstep(-0.7f, 0.6f, level) + 0.15f * smoothstep(-3.2f, 3.2f, level);
+    sample.cover = 0.78f * smoothstep(-0.75f, 0.7f, level) + 0.22f * smoothstep(-3.0f, 4.0f, level);
     sample.darkness /= weights;
     sample.titanium /= weights;
     sample.rimKm = rim;

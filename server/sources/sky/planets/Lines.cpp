@@ -6,10 +6,12 @@ namespace moravel::server::sky {
 void addLine(Band &band, const LinePiece &piece)
 {
     const float reach = piece.width;
-    const float low = std::min(piece.y0, piece.y1) - reach, high = std::max(piece.y0, piece.y1) + reach;
+    const float low = std::min(piece.y0, piece.y1) - reach,
+                high = std::max(piece.y0, piece.y1) + reach;
     if (high < static_cast<float>(band.top) || low > static_cast<float>(band.bottom()))
         return;
-    const float left = std::min(piece.x0, piece.x1) - reach, right = std::max(piece.x0, piece.x1) + reach;
+    const float left = std::min(piece.x0, piece.x1) - reach,
+                right = std::max(piece.x0, piece.x1) + reach;
     const int x0 = std::max(0, static_cast<int>(left));
     const int x1 = std::min(band.frame.width - 1, static_cast<int>(right));
     const int y0 = std::max(band.top, static_cast<int>(low));
