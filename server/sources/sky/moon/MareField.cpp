@@ -7,11 +7,13 @@
 #include "server/sources/sky/paint/Noise.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace moravel::server::sky {
 
 namespace {
 
+constexpr float frayReach = 8; ///< Degrees from an edge where its fraying has no effect any more.
 constexpr float outside = -12; ///< Degrees from an edge beyond which nothing is felt.
 
 /// The larger of two levels, with the corner between them filled: neighbouring plains flow
@@ -55,7 +57,7 @@ MareField::MareField()
 MareSample MareField::at(const Vec3f &place) const
 {
     const Vec3f p = warped(place);
-    const float fray = 2.3f * fractalNoise(place * 15.0f, 6);
+    std::optional<float> fray; // costly, and felt near an edge only
     float level = outside, weights = 1e-6f, rim = 0;
     MareSample sample{};
     for (const Ellipse &ellipse : m_ellipses) {
@@ -65,7 +67,9 @@ MareSample MareField::at(const Vec3f &place) const
         const float edge =
             (1 - std::sqrt(u * u + v * v)) * ellipse.degrees; // degrees, inside positive
         const float small = std::min(1.0f, ellipse.degrees / 4); // little lakes fray less
-        level = joined(level, edge + fray * small);
+        if (!fray && std::fabs(edge) < frayReach)
+            fray = 2.3f * fractalNoise(place * 15.0f, 5);
+        level = joined(level, edge + fray.value_or(0.0f) * small);
         const float weight = smoothstep(-4 * small, 4 * small, edge);
         weights += weight;
         sample.darkness += weight * ellipse.darkness;

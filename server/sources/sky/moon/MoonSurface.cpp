@@ -17,19 +17,22 @@ constexpr float smallestCells = 1.1f; ///< Radius under which a crater would onl
 
 float groundHeight(const Vec3f &p, const MareSample &lava)
 {
-    const float hills = fractalNoise(p * 11.0f, 6);
-    const float plain = -0.9f + 0.10f * ridgedNoise(p * 9.0f, 2) + 0.02f * hills;
-    const float highland = 1.25f * hills + 0.25f * ridgedNoise(p * 45.0f, 3);
-    const float range = lava.rimKm > 0.05f ? lava.rimKm * ridgedNoise(p * 24.0f, 4) : 0;
     const float rough = 1 - lava.cover;
-    return (mix(highland, plain, lava.cover) + range * (0.15f + 0.85f * rough)) * km;
+    float height = 0;
+    if (lava.cover > 0)
+        height += lava.cover * (-0.9f + 0.10f * ridgedNoise(p * 9.0f, 2));
+    if (rough > 0)
+        height += rough * (1.25f * fractalNoise(p * 11.0f, 5) + 0.25f * ridgedNoise(p * 45.0f, 3));
+    if (lava.rimKm > 0.05f)
+        height += lava.rimKm * ridgedNoise(p * 24.0f, 4) * (0.15f + 0.85f * rough);
+    return height * km;
 }
 
 Colour groundColour(const Vec3f &p, const MareSample &lava, float ray)
 {
-    const float mottle = fractalNoise(p * 6.0f + Vec3f{3, 3, 3}, 5);
+    const float mottle = fractalNoise(p * 6.0f + Vec3f{3, 3, 3}, 3);
     const float grain = fractalNoise(p * 70.0f, 2);
-    const float patches = fractalNoise(p * 2.6f + Vec3f{9, 1, 4}, 3);
+    const float patches = fractalNoise(p * 2.6f + Vec3f{9, 1, 4}, 2);
     const float texture = fractalNoise(p * 31.0f, 3);
     const float highland =
         0.68f + 0.10f * mottle + 0.05f * grain + 0.06f * patches + 0.055f * texture;
