@@ -31,7 +31,7 @@ Vec3f warped(const Vec3f &p)
     const Vec3f a{noise(coarse), noise(coarse + Vec3f{31, 0, 0}), noise(coarse + Vec3f{0, 47, 0})};
     const Vec3f b{noise(fine + Vec3f{5, 0, 0}), noise(fine + Vec3f{0, 9, 0}),
                   noise(fine + Vec3f{0, 0, 7})};
-    return p + a * 0.055f + b * 0.026f;
+    return p + a * 0.042f + b * 0.026f;
 }
 
 } // namespace

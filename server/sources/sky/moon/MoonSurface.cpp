@@ -35,13 +35,13 @@ Colour groundColour(const Vec3f &p, const MareSample &lava, float ray)
     const float patches = fractalNoise(p * 2.6f + Vec3f{9, 1, 4}, 2);
     const float texture = fractalNoise(p * 31.0f, 3);
     const float highland =
-        0.68f + 0.10f * mottle + 0.05f * grain + 0.06f * patches + 0.055f * texture;
-    const float basalt = 0.66f - 0.50f * lava.darkness + 0.10f * mottle + 0.02f * grain
+        0.60f + 0.10f * mottle + 0.05f * grain + 0.06f * patches + 0.055f * texture;
+    const float basalt = 0.61f - 0.46f * lava.darkness + 0.10f * mottle + 0.02f * grain
         + 0.09f * patches + 0.02f * texture;
     const float base = mix(highland, basalt, lava.cover);
-    const float bright = base + 0.52f * ray * (1.12f - 0.75f * base);
+    const float bright = base + 0.66f * ray * (1.08f - 0.75f * base);
     const float hue = lava.cover * (lava.titanium + 0.6f * mottle);
-    const Colour tint{1.0f - 0.035f * hue, 0.965f, 0.915f + 0.06f * hue};
+    const Colour tint{1.0f - 0.035f * hue, 0.965f, 0.915f + 0.045f * hue};
     return tint * bright;
 }
 

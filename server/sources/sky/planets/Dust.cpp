@@ -19,7 +19,7 @@ struct Belt
 };
 
 constexpr Belt belts[] = {
-    {10000, 2.1f, 3.3f, 0.16f, 11, 0.30f, {1.0f, 0.82f, 0.62f}},
+    {16000, 2.1f, 3.3f, 0.16f, 11, 0.40f, {1.0f, 0.82f, 0.62f}},
     {3200, 36, 49, 0.10f, 9, 0.07f, {0.62f, 0.78f, 1.0f}},
 };
 
@@ -65,7 +65,7 @@ std::vector<DustGrain> beltDust(const SolarView &view, const Frame &frame, doubl
                 continue;
             const Projected at = view.project(SolarView::scenePlace(placeOn(orbit)));
             const float wanted =
-                unit * at.scale / sunScale * (0.75f + 0.9f * size * size * size * size);
+                unit * at.scale / sunScale * (0.5f + 0.8f * size * size * size * size);
             const float radius = std::max(wanted, 0.6f);
             const float light =
                 belt.light * (0.25f + 0.75f * glint * glint) * wanted * wanted / (radius * radius);

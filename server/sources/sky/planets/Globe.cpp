@@ -44,7 +44,8 @@ Globe::Globe(Planet planet, const SolarView &view, const Frame &frame, double ju
     m_depth = at.depth;
     const PlanetLooks &look = looksOf(planet);
     m_radius = std::max(1.2f, look.radius * frame.fineUnit * at.scale / view.project({}).scale);
-    m_light = normalized(view.toView(normalized(place * -1.0f)) + lift);
+    m_sun = view.toView(normalized(place * -1.0f));
+    m_light = normalized(m_sun + lift);
 
     const Vec3f pole = poleOf(planet);
     const Vec3f side = normalized(cross(pole, Vec3f{0.3f, 0.9f, 0.2f}));
@@ -62,11 +63,13 @@ Vec3f Globe::toGlobe(const Vec3f &view) const
     return {dot(view, m_prime), dot(view, m_east), dot(view, m_pole)};
 }
 
-bool Globe::inRingShadow(const Vec3f &place) const
+/// How dark the shadow of the rings is on the ball.
+float Globe::ringShadow(const Vec3f &place) const
 {
-    const float slope = dot(m_light, m_pole);
+    const float slope = dot(m_sun, m_pole);
     const float t = -dot(place, m_pole) / (std::fabs(slope) < 1e-4f ? 1e-4f : slope);
-    return t > 0 && ringOpacity(length(place + m_light * t)) > 0.45f;
+    const float day = smoothstep(0.0f, 0.35f, dot(place, m_sun));
+    return t > 0 ? 0.55f * day * ringOpacity(length(place + m_sun * t)) : 0;
 }
 
 /// @p x and @p y in radii, y up.
@@ -81,12 +84,12 @@ Globe::Lit Globe::ballAt(float x, float y) const
     const PlanetLooks &look = looksOf(m_planet);
     const float sun = dot(up, m_light);
     float day = smoothstep(-0.12f, 1.0f, sun) * 0.55f + 0.45f * std::max(0.0f, sun);
-    if (m_planet == Planet::Saturn && inRingShadow(up))
-        day *= 0.35f;
+    if (m_planet == Planet::Saturn)
+        day *= 1 - ringShadow(up);
     const Colour ground = planetSurface(m_planet, toGlobe(up));
     const float limb = (1 - z) * (1 - z);
     const float airDay = smoothstep(-0.35f, 0.5f, sun) * look.air * limb;
-    const Colour light = ground * (day * sunPower + ambient)
+    const Colour light = ground * (day * sunPower * (0.6f + 0.4f * z) + ambient)
         + look.airColour * (airDay * 0.9f + 0.03f * limb * look.air);
     return {light, std::min(edge, 1.0f)};
 }
@@ -101,11 +104,11 @@ Globe::Lit Globe::ringAt(float x, float y, bool front) const
     const float opacity = ringOpacity(length(place));
     if (opacity <= 0)
         return {};
-    const float along = dot(place, m_light);
-    const Vec3f aside = place - m_light * along;
+    const float along = dot(place, m_sun);
+    const Vec3f aside = place - m_sun * along;
     const float shadow = along < 0 ? smoothstep(0.94f, 1.03f, length(aside)) : 1;
-    const bool litSide = dot(m_light, m_pole) * m_pole.z > 0;
-    const float light = (litSide ? 1.0f : 0.42f) * (0.08f + 0.92f * shadow);
+    const bool litSide = dot(m_sun, m_pole) * m_pole.z > 0;
+    const float light = (litSide ? 1.0f : 0.60f) * (0.08f + 0.92f * shadow);
     return {Colour{0.92f, 0.80f, 0.60f} * (light * (0.55f + 0.45f * opacity)), opacity};
 }
 

@@ -28,13 +28,14 @@ private:
     Lit ballAt(float x, float y) const;
     Lit ringAt(float x, float y, bool front) const;
     Lit ringAround(float x, float y, bool front) const;
-    bool inRingShadow(const Vec3f &place) const;
+    float ringShadow(const Vec3f &place) const;
     Vec3f toGlobe(const Vec3f &view) const;
 
     Planet m_planet;
     float m_x, m_y, m_radius; ///< Samples.
     float m_depth;
-    Vec3f m_light; ///< To the Sun, in picture axes.
+    Vec3f m_sun; ///< To the Sun, in picture axes.
+    Vec3f m_light; ///< What lights the ball: the Sun, brought round a little.
     Vec3f m_pole, m_east, m_prime; ///< Axes of the globe, in picture axes.
 };
 

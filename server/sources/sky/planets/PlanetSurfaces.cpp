@@ -61,7 +61,7 @@ float bands(const Vec3f &p, float count, float fray, float seed)
 Colour jupiter(const Vec3f &p)
 {
     const float belt = bands(p, 5.6f, 0.022f, 3.3f);
-    Colour colour = mix(Colour{0.50f, 0.29f, 0.16f}, Colour{0.97f, 0.88f, 0.74f},
+    Colour colour = mix(Colour{0.50f, 0.29f, 0.16f}, Colour{0.90f, 0.79f, 0.63f},
                         smoothstep(-0.32f, 0.22f, belt));
     const Vec3f spot{0.10f, 0.92f, -0.375f}; // the great red one
     const Vec3f away = p - spot;
