@@ -5,9 +5,10 @@
 
 namespace moravel::server {
 
-/// The eight planets at their true places around the Sun at 12:00 UT of the day, seen from north of the
-/// ecliptic; distances from the Sun are shortened by a power law, sizes are not to scale.
-class Planets : public ComputedSource {
+/// The eight planets at their true places around the Sun at 12:00 UT of the day, seen from north of
+/// the ecliptic; distances from the Sun are shortened by a power law, sizes are not to scale.
+class Planets : public ComputedSource
+{
 public:
     QString shortName() const override;
     QString longName() const override;

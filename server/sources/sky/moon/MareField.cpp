@@ -7,11 +7,13 @@
 #include "server/sources/sky/paint/Noise.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace moravel::server::sky {
 
 namespace {
 
+constexpr float frayReach = 8; ///< Degrees from an edge where its fraying has no effect any more.
 constexpr float outside = -12; ///< Degrees from an edge beyond which nothing is felt.
 
 /// The larger of two levels, with the corner between them filled: neighbouring plains flow
@@ -29,7 +31,7 @@ Vec3f warped(const Vec3f &p)
     const Vec3f a{noise(coarse), noise(coarse + Vec3f{31, 0, 0}), noise(coarse + Vec3f{0, 47, 0})};
     const Vec3f b{noise(fine + Vec3f{5, 0, 0}), noise(fine + Vec3f{0, 9, 0}),
                   noise(fine + Vec3f{0, 0, 7})};
-    return p + a * 0.055f + b * 0.026f;
+    return p + a * 0.042f + b * 0.026f;
 }
 
 } // namespace
@@ -55,7 +57,7 @@ MareField::MareField()
 MareSample MareField::at(const Vec3f &place) const
 {
     const Vec3f p = warped(place);
-    const float fray = 1.5f * fractalNoise(place * 17.0f, 5);
+    std::optional<float> fray; // costly, and felt near an edge only
     float level = outside, weights = 1e-6f, rim = 0;
     MareSample sample{};
     for (const Ellipse &ellipse : m_ellipses) {
@@ -65,7 +67,9 @@ MareSample MareField::at(const Vec3f &place) const
         const float edge =
             (1 - std::sqrt(u * u + v * v)) * ellipse.degrees; // degrees, inside positive
         const float small = std::min(1.0f, ellipse.degrees / 4); // little lakes fray less
-        level = joined(level, edge + fray * small);
+        if (!fray && std::fabs(edge) < frayReach)
+            fray = 2.3f * fractalNoise(place * 15.0f, 5);
+        level = joined(level, edge + fray.value_or(0.0f) * small);
         const float weight = smoothstep(-4 * small, 4 * small, edge);
         weights += weight;
         sample.darkness += weight * ellipse.darkness;
@@ -73,7 +77,7 @@ MareSample MareField::at(const Vec3f &place) const
         const float crest = (edge + 1.3f) / 1.6f;
         rim = std::max(rim, ellipse.rimKm / (1 + crest * crest * crest * crest));
     }
-    sample.cover = 0.85f * smoothstep(-0.7f, 0.6f, level) + 0.15f * smoothstep(-3.2f, 3.2f, level);
+    sample.cover = 0.78f * smoothstep(-0.75f, 0.7f, level) + 0.22f * smoothstep(-3.0f, 4.0f, level);
     sample.darkness /= weights;
     sample.titanium /= weights;
     sample.rimKm = rim;

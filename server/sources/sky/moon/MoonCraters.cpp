@@ -14,7 +14,7 @@ namespace moravel::server::sky {
 namespace {
 
 constexpr float radiusKm = 1737.4f;
-constexpr int smallCraters = 30000;
+constexpr int smallCraters = 44000;
 constexpr float smallestKm = 7, largestKm = 110;
 
 /// Depth and rim height follow R. J. Pike's measurements of fresh lunar craters (1977).
@@ -25,7 +25,7 @@ Crater craterOf(const Vec3f &centre, float diameterKm, float freshness, float fl
         simple ? 0.196f * std::pow(diameterKm, 1.01f) : 1.044f * std::pow(diameterKm, 0.301f);
     const float rimKm =
         simple ? 0.036f * std::pow(diameterKm, 1.014f) : 0.236f * std::pow(diameterKm, 0.399f);
-    const float wear = 0.22f + 0.78f * freshness;
+    const float wear = 0.30f + 0.70f * freshness;
     const bool peaked = diameterKm > 30 && diameterKm < 180 && flooded < 0.5f;
     Crater crater{};
     crater.centre = centre;

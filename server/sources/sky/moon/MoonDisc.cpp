@@ -17,8 +17,8 @@ constexpr int rowsAtOnce = 16;
 Colour earthshine(const LunarAspect &aspect)
 {
     const auto dark = static_cast<float>(1 - aspect.illuminated);
-    const float strength = 0.008f + 0.030f * dark * dark + 0.055f * smoothstep(0.93f, 1.0f, dark);
-    return Colour{0.56f, 0.78f, 1.15f} * strength;
+    const float strength = 0.009f + 0.036f * dark * dark + 0.055f * smoothstep(0.93f, 1.0f, dark);
+    return Colour{0.50f, 0.76f, 1.24f} * strength;
 }
 
 } // namespace
@@ -39,7 +39,8 @@ void MoonDisc::shadeRow(const MoonSurface &surface, const MoonView &view, const 
                         int row)
 {
     const Colour night = earthshine(aspect);
-    const Colour day = Colour{1.0f, 0.985f, 0.955f} * 0.74f;
+    const Colour day =
+        Colour{1.0f, 0.985f, 0.955f} * mix(0.76f, 1.0f, static_cast<float>(aspect.illuminated));
     Colour *out = m_light.data() + static_cast<std::ptrdiff_t>(row) * m_side;
     for (int column = 0; column < m_side; ++column) {
         if (!surface.covers(column, row))
@@ -47,7 +48,9 @@ void MoonDisc::shadeRow(const MoonSurface &surface, const MoonView &view, const 
         const Vec3f up = surface.place(column, row);
         const Vec3f normal = groundNormal(surface, column, row);
         const float seen = sunVisible(surface, column, row, view.light);
-        const float sun = seen > 0 ? seen * dustyReflection(dot(normal, view.light), up.z) : 0;
+        const float sun = seen > 0
+            ? seen * dustyReflection(dot(normal, view.light), 0.25f * up.z + 0.75f * normal.z)
+            : 0;
         const float earth = 0.55f + 0.45f * std::max(0.0f, normal.z);
         const Colour ground = surface.reflectance(column, row);
         out[column] = ground * (day * sun + night * earth);

@@ -11,6 +11,8 @@ constexpr Mare mariaTable[] = {
     {44.5f, -31.5f, 3.8f, 3.8f, 0, 0.84f, 0, 2.2f},    // Sinus Iridum
     {27.3f, 18.2f, 10.6f, 9.6f, 0, 0.78f, -0.5f, 1.4f}, // Serenitatis
     {9, 31, 12.6f, 9.2f, -8, 0.95f, 1.0f, 0.5f},       // Tranquillitatis
+    {18.5f, 26.5f, 4.5f, 4, 0, 0.90f, 0.4f, 0},        // between the two
+    {2.5f, 43, 4.5f, 3, 0, 0.80f, 0.5f, 0},
     {4, 25, 7, 5, 20, 0.93f, 1.0f, 0},
     {-5, 27, 3.4f, 4.2f, 0, 0.72f, 0.5f, 0},           // Sinus Asperitatis
     {17, 59.1f, 8.7f, 6.5f, 0, 0.92f, 0.3f, 2.6f},     // Crisium

@@ -45,7 +45,10 @@ Vec3f groundNormal(const MoonSurface &surface, int column, int row)
     // The height as a function of x and y only; its slope along the ground is the part across `up`.
     const Vec3f steep{slope(surface, column, row, 1, 0), slope(surface, column, row, 0, -1), 0};
     const Vec3f along = steep - up * dot(steep, up);
-    return normalized(up - along * emphasis);
+    const float fade =
+        0.2f + 0.8f * smoothstep(0, 0.4f, up.z); // the limb is too slanted to resolve
+    const float steepness = emphasis * fade * length(along);
+    return normalized(up - along * (emphasis * fade / (1 + 0.8f * steepness))); // no cliffs
 }
 
 float sunVisible(const MoonSurface &surface, int column, int row, const Vec3f &light)

@@ -41,13 +41,13 @@ float MoonRays::streaks(const System &system, const Vec3f &place, float distance
     const float flat = 1 / std::sqrt(u * u + v * v + 1e-9f);
     const float bend = 0.10f * noise(place * 9.0f + Vec3f{system.seed, 0, 0});
     const Vec3f spoke{u * flat + bend, v * flat - bend, system.seed};
-    const float wide = smoothstep(0.22f, 0.62f, noise(spoke * 3.1f));
-    const float thin = smoothstep(0.18f, 0.60f, noise(spoke * 8.3f + Vec3f{0, 0, 4}));
+    const float wide = smoothstep(0.10f, 0.55f, noise(spoke * 3.1f));
+    const float thin = smoothstep(0.12f, 0.55f, noise(spoke * 8.3f + Vec3f{0, 0, 4}));
     const float broken = 0.55f + 0.75f * fractalNoise(place * 26.0f, 2);
     const float t = distance / system.reach;
     const float fade =
         (1 - t) * std::sqrt(1 - t) * smoothstep(0.6f, 1.4f, distance / system.radius);
-    return (1.0f * wide + 0.8f * thin) * (broken < 0 ? 0 : broken) * fade;
+    return (1.05f * wide + 0.95f * thin) * (broken < 0 ? 0 : broken) * fade;
 }
 
 } // namespace moravel::server::sky

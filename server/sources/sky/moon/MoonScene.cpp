@@ -72,8 +72,8 @@ public:
             near += s.z / ((0.10f + d2) * (0.10f + d2));
             wide += s.z / (0.5f + d2);
         }
-        return Colour{0.0085f, 0.0098f, 0.0125f} * (0.013f * near)
-            + Colour{0.0026f, 0.0042f, 0.0078f} * (0.045f * wide);
+        return Colour{0.0085f, 0.0105f, 0.0150f} * (0.012f * near)
+            + Colour{0.0012f, 0.0024f, 0.0058f} * (0.036f * wide);
     }
 
 private:

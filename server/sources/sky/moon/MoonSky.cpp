@@ -53,7 +53,7 @@ Colour skyLight(float x, float y, float strength)
     const float low = smoothstep(-0.30f, 0.34f, y);
     const Colour ground =
         mix(Colour{0.0016f, 0.0026f, 0.0068f}, Colour{0.0034f, 0.0056f, 0.0125f}, low);
-    const Colour glow = mix(Colour{0.021f, 0.024f, 0.036f}, Colour{0.030f, 0.021f, 0.020f},
+    const Colour glow = mix(Colour{0.021f, 0.024f, 0.036f}, Colour{0.031f, 0.026f, 0.025f},
                             smoothstep(0.5f, 1.0f, bright));
     const float wisps = fractalNoise({x * 4.0f, y * 4.0f, 0.5f}, 4);
     const Colour haze = Colour{0.0016f, 0.0030f, 0.0060f} * (0.6f + wisps);

@@ -17,26 +17,31 @@ constexpr float smallestCells = 1.1f; ///< Radius under which a crater would onl
 
 float groundHeight(const Vec3f &p, const MareSample &lava)
 {
-    const float hills = fractalNoise(p * 11.0f, 6);
-    const float plain = -0.9f + 0.10f * ridgedNoise(p * 9.0f, 2) + 0.02f * hills;
-    const float highland = 0.9f * hills;
-    const float range = lava.rimKm > 0.05f ? lava.rimKm * ridgedNoise(p * 24.0f, 4) : 0;
     const float rough = 1 - lava.cover;
-    return (mix(highland, plain, lava.cover) + range * (0.15f + 0.85f * rough)) * km;
+    float height = 0;
+    if (lava.cover > 0)
+        height += lava.cover * (-0.9f + 0.10f * ridgedNoise(p * 9.0f, 2));
+    if (rough > 0)
+        height += rough * (1.25f * fractalNoise(p * 11.0f, 5) + 0.25f * ridgedNoise(p * 45.0f, 3));
+    if (lava.rimKm > 0.05f)
+        height += lava.rimKm * ridgedNoise(p * 24.0f, 4) * (0.15f + 0.85f * rough);
+    return height * km;
 }
 
 Colour groundColour(const Vec3f &p, const MareSample &lava, float ray)
 {
-    const float mottle = fractalNoise(p * 6.0f + Vec3f{3, 3, 3}, 5);
+    const float mottle = fractalNoise(p * 6.0f + Vec3f{3, 3, 3}, 3);
     const float grain = fractalNoise(p * 70.0f, 2);
-    const float patches = fractalNoise(p * 2.6f + Vec3f{9, 1, 4}, 3);
-    const float highland = 0.70f + 0.09f * mottle + 0.05f * grain + 0.05f * patches;
-    const float basalt =
-        0.70f - 0.50f * lava.darkness + 0.075f * mottle + 0.02f * grain + 0.05f * patches;
+    const float patches = fractalNoise(p * 2.6f + Vec3f{9, 1, 4}, 2);
+    const float texture = fractalNoise(p * 31.0f, 3);
+    const float highland =
+        0.60f + 0.10f * mottle + 0.05f * grain + 0.06f * patches + 0.055f * texture;
+    const float basalt = 0.61f - 0.46f * lava.darkness + 0.10f * mottle + 0.02f * grain
+        + 0.09f * patches + 0.02f * texture;
     const float base = mix(highland, basalt, lava.cover);
-    const float bright = base + 0.42f * ray * (1.05f - 0.8f * base);
+    const float bright = base + 0.66f * ray * (1.08f - 0.75f * base);
     const float hue = lava.cover * (lava.titanium + 0.6f * mottle);
-    const Colour tint{1.0f - 0.035f * hue, 0.965f, 0.915f + 0.06f * hue};
+    const Colour tint{1.0f - 0.035f * hue, 0.965f, 0.915f + 0.045f * hue};
     return tint * bright;
 }
 
@@ -46,7 +51,9 @@ Colour craterTint(const Crater &crater, float x)
     const float young = crater.freshness * crater.freshness * crater.freshness;
     const float fall = 1 - x / craterReach;
     const float floor = x < 0.8f ? -0.035f * (1 - crater.freshness) : 0;
-    const float halo = 0.24f * young * fall * fall + floor;
+    const float crest = (x - 1) * 6;
+    const float halo =
+        0.26f * young * fall * fall + floor + 0.05f * crater.freshness / (1 + crest * crest);
     return {halo, halo, halo};
 }
 

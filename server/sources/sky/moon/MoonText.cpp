@@ -44,8 +44,9 @@ QString litPart(double illuminated)
 
 QString nextPhases(double julianDay)
 {
-    const double full = nextPhase(julianDay, LunarPhase::Full);
-    const double dark = nextPhase(julianDay, LunarPhase::New);
+    const double endOfDay = julianDay + 0.5;
+    const double full = nextPhase(endOfDay, LunarPhase::Full);
+    const double dark = nextPhase(endOfDay, LunarPhase::New);
     const QString pattern = QStringLiteral("The next %1 moon is on %2, the next %3 moon on %4.");
     const QString fullDate = longDate(dateOf(full)), darkDate = longDate(dateOf(dark));
     return full < dark

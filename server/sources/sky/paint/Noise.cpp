@@ -30,6 +30,24 @@ constexpr Vec3f gradients[16] = {
     {1, 1, 0}, {-1, 1, 0}, {1, -1, 0}, {-1, -1, 0}, {1, 0, 1}, {-1, 0, 1}, {1, 0, -1}, {-1, 0, -1},
     {0, 1, 1}, {0, -1, 1}, {0, 1, -1}, {0, -1, -1}, {1, 1, 0}, {-1, 1, 0}, {0, -1, 1}, {0, -1, -1}};
 
+/// The gradient that belongs to a hashed corner, without a second look-up.
+struct alignas(16) Gradient
+{
+    float x, y, z;
+};
+
+constexpr std::array<Gradient, 512> hashedGradients()
+{
+    std::array<Gradient, 512> table{};
+    for (unsigned i = 0; i < 512; ++i) {
+        const Vec3f &g = gradients[permutation[i] & 15];
+        table[i] = {g.x, g.y, g.z};
+    }
+    return table;
+}
+
+constexpr auto cornerGradients = hashedGradients();
+
 int floorOf(float x)
 {
     const int truncated = static_cast<int>(x);
@@ -41,9 +59,9 @@ float fade(float t)
     return t * t * t * (t * (t * 6 - 15) + 10);
 }
 
-float corner(int hash, float x, float y, float z)
+float corner(unsigned hash, float x, float y, float z)
 {
-    const Vec3f &g = gradients[permutation[static_cast<unsigned>(hash)] & 15];
+    const Gradient &g = cornerGradients.data()[hash];
     return g.x * x + g.y * y + g.z * z;
 }
 
@@ -56,12 +74,13 @@ float noise(const Vec3f &p)
     const float y = p.y - static_cast<float>(yi);
     const float z = p.z - static_cast<float>(zi);
     const float u = fade(x), v = fade(y), w = fade(z);
-    const auto hashed = [](int i) {
-        return static_cast<int>(permutation[static_cast<unsigned>(i)]);
-    };
-    const int a = hashed(xi & 255), b = hashed((xi + 1) & 255);
-    const int y0 = yi & 255, y1 = (yi + 1) & 255, z0 = zi & 255, z1 = (zi + 1) & 255;
-    const int aa = hashed(a + y0), ab = hashed(a + y1), ba = hashed(b + y0), bb = hashed(b + y1);
+    const unsigned char *const hashed = permutation.data();
+    const auto x0 = static_cast<unsigned>(xi) & 255, x1 = static_cast<unsigned>(xi + 1) & 255;
+    const auto y0 = static_cast<unsigned>(yi) & 255, y1 = static_cast<unsigned>(yi + 1) & 255;
+    const auto z0 = static_cast<unsigned>(zi) & 255, z1 = static_cast<unsigned>(zi + 1) & 255;
+    const unsigned a = hashed[x0], b = hashed[x1];
+    const unsigned aa = hashed[a + y0], ab = hashed[a + y1], ba = hashed[b + y0],
+                   bb = hashed[b + y1];
     const float near =
         mix(mix(corner(aa + z0, x, y, z), corner(ba + z0, x - 1, y, z), u),
             mix(corner(ab + z0, x, y - 1, z), corner(bb + z0, x - 1, y - 1, z), u), v);

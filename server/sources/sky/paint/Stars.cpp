@@ -74,8 +74,10 @@ void addStars(Band &band, const std::vector<Star> &stars, float exposure)
         const float spread = wanted * wanted / (radius * radius); // smaller than a sample: dimmer
         const float peak = exposure * spread * (0.05f + 3.0f * std::sqrt(star.light));
         addSpot(band, x, y, radius, star.tint * peak);
-        if (star.light > haloFrom)
-            addSpot(band, x, y, radius * 7, star.tint * (exposure * 0.06f * star.light));
+        if (star.light > haloFrom) {
+            addSpot(band, x, y, radius * 2.6f, star.tint * (exposure * 0.16f * star.light));
+            addSpot(band, x, y, radius * 6, star.tint * (exposure * 0.018f * star.light));
+        }
     }
 }
 

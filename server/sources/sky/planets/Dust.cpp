@@ -9,7 +9,8 @@ namespace moravel::server::sky {
 
 namespace {
 
-struct Belt {
+struct Belt
+{
     int bodies;
     float nearestAu, farthestAu;
     float eccentricity, inclination; ///< Largest, the latter in degrees.
@@ -18,8 +19,8 @@ struct Belt {
 };
 
 constexpr Belt belts[] = {
-    {6500, 2.1f, 3.3f, 0.16f, 11, 0.34f, {1.0f, 0.82f, 0.62f}},
-    {2600, 36, 49, 0.10f, 9, 0.13f, {0.62f, 0.78f, 1.0f}},
+    {16000, 2.1f, 3.3f, 0.16f, 11, 0.40f, {1.0f, 0.82f, 0.62f}},
+    {3200, 36, 49, 0.10f, 9, 0.07f, {0.62f, 0.78f, 1.0f}},
 };
 
 /// Jupiter keeps these distances nearly empty (Kirkwood gaps).
@@ -36,14 +37,15 @@ bool inGap(float semiMajorAu)
 Orbit randomOrbit(const Belt &belt, Prng &prng, double days)
 {
     const float spread = (prng.uniform() + prng.uniform()) / 2;
-    Orbit orbit {};
+    Orbit orbit{};
     orbit.semiMajorAu = static_cast<double>(mix(belt.nearestAu, belt.farthestAu, spread));
     orbit.eccentricity = static_cast<double>(belt.eccentricity * prng.uniform());
     orbit.inclination = static_cast<double>(belt.inclination * prng.uniform() * prng.uniform());
     orbit.perihelion = static_cast<double>(prng.uniform(0, 360));
     orbit.node = static_cast<double>(prng.uniform(0, 360));
     const double start = static_cast<double>(prng.uniform(0, 360));
-    orbit.meanLongitude = start + 0.9856076686 * days / std::pow(orbit.semiMajorAu, 1.5); // Kepler's third law
+    orbit.meanLongitude =
+        start + 0.9856076686 * days / std::pow(orbit.semiMajorAu, 1.5); // Kepler's third law
     return orbit;
 }
 
@@ -62,9 +64,11 @@ std::vector<DustGrain> beltDust(const SolarView &view, const Frame &frame, doubl
             if (inGap(static_cast<float>(orbit.semiMajorAu)))
                 continue;
             const Projected at = view.project(SolarView::scenePlace(placeOn(orbit)));
-            const float wanted = unit * at.scale / sunScale * (0.9f + 1.0f * size * size * size);
+            const float wanted =
+                unit * at.scale / sunScale * (0.5f + 0.8f * size * size * size * size);
             const float radius = std::max(wanted, 0.6f);
-            const float light = belt.light * (0.25f + 0.75f * glint * glint) * wanted * wanted / (radius * radius);
+            const float light =
+                belt.light * (0.25f + 0.75f * glint * glint) * wanted * wanted / (radius * radius);
             grains.push_back({at.x, at.y, radius, belt.tint * light});
         }
     }

@@ -9,13 +9,14 @@ namespace moravel::server::sky {
 
 class SolarView;
 
-struct DustGrain {
+struct DustGrain
+{
     float x, y, radius; ///< Samples.
     Colour colour;
 };
 
-/// The asteroid belt and, faintly, the icy belt beyond Neptune: invented bodies on Keplerian orbits of the
-/// true extent, moving from day to day.
+/// The asteroid belt and, faintly, the icy belt beyond Neptune: invented bodies on Keplerian orbits
+/// of the true extent, moving from day to day.
 std::vector<DustGrain> beltDust(const SolarView &view, const Frame &frame, double julianDay);
 
 } // namespace moravel::server::sky

@@ -5,15 +5,23 @@
 
 namespace moravel::server::sky {
 
-/// A piece of a curve of light, in samples.
-struct LinePiece {
-    float x0, y0, x1, y1;
-    float width; ///< Half width at which it ends.
+/// A point of a curve and the way the curve runs there, in samples.
+struct CurvePoint
+{
+    float x, y;
+    float alongX, alongY;
+};
+
+/// A piece of a curve of light.
+struct LinePiece
+{
+    CurvePoint from, to;
+    float width; ///< Half width at which it ends, samples.
     Colour colour;
 };
 
-/// Adds the light of a piece to a band. Pieces of a curve neither overlap nor leave gaps: each takes the
-/// samples beside it, its end excluded.
+/// Adds the light of a piece to a band. Pieces that share their points neither overlap nor leave
+/// gaps: each takes the samples between the straight lines across the curve at its ends.
 void addLine(Band &band, const LinePiece &piece);
 
 } // namespace moravel::server::sky

@@ -7,12 +7,13 @@
 namespace moravel::server::sky {
 
 /// How a planet is drawn.
-struct PlanetLooks {
-    float radius;       ///< In fine units at the Sun's depth; true order of size, not true scale.
-    Colour colour;      ///< Of its orbit and glow.
+struct PlanetLooks
+{
+    float radius; ///< In fine units at the Sun's depth; true order of size, not true scale.
+    Colour colour; ///< Of its orbit and glow.
     float poleAscension, poleDeclination; ///< North pole, J2000 degrees (IAU WGCCRE 2015).
     float rotationDays; ///< Sidereal; negative turns backwards.
-    float air;          ///< Strength of the bright haze at the limb.
+    float air; ///< Strength of the bright haze at the limb.
     Colour airColour;
 };
 

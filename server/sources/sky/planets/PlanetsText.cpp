@@ -13,8 +13,8 @@ namespace {
 
 QString nameOf(Planet planet)
 {
-    static const char *const names[planetCount]
-        = {"Mercury", "Venus", "Earth", "Mars", "Jupiter", "Saturn", "Uranus", "Neptune"};
+    static const char *const names[planetCount] = {"Mercury", "Venus",  "Earth",  "Mars",
+                                                   "Jupiter", "Saturn", "Uranus", "Neptune"};
     return QLatin1String(names[static_cast<int>(planet)]);
 }
 
@@ -24,7 +24,8 @@ QString alignmentCaption(const Alignment &pair)
         return QStringLiteral("%1 stands between the Sun and the Earth").arg(nameOf(pair.inner));
     if (pair.inner == Planet::Earth)
         return QStringLiteral("%1 stands opposite the Sun in our sky").arg(nameOf(pair.outer));
-    return QStringLiteral("%1 and %2 stand in line on the same side of the Sun").arg(nameOf(pair.inner), nameOf(pair.outer));
+    return QStringLiteral("%1 and %2 stand in line on the same side of the Sun")
+        .arg(nameOf(pair.inner), nameOf(pair.outer));
 }
 
 QString captionOf(double julianDay)
@@ -32,7 +33,8 @@ QString captionOf(double julianDay)
     if (const auto pair = alignmentAt(julianDay))
         return alignmentCaption(*pair);
     if (const auto apsis = apsisAt(julianDay)) {
-        return (apsis->nearest ? QStringLiteral("%1 is at its closest to the Sun") : QStringLiteral("%1 is at its farthest from the Sun"))
+        return (apsis->nearest ? QStringLiteral("%1 is at its closest to the Sun")
+                               : QStringLiteral("%1 is at its farthest from the Sun"))
             .arg(nameOf(apsis->planet));
     }
     return QStringLiteral("The planets on %1").arg(longDate(dateOf(julianDay)));
@@ -55,16 +57,21 @@ DayText planetsText(double julianDay)
 {
     DayText text;
     text.caption = captionOf(julianDay);
-    text.info = QStringLiteral("On %1 at noon UT Venus is %2, Mars %3, Jupiter %4 and Saturn %5 times as far "
-                               "from the Earth as the Sun is on average. ")
-                    .arg(longDate(dateOf(julianDay)), distanceText(Planet::Venus, julianDay), distanceText(Planet::Mars, julianDay),
-                         distanceText(Planet::Jupiter, julianDay), distanceText(Planet::Saturn, julianDay))
-                + QStringLiteral("Seen from the Sun, Mercury stands at longitude %1°, Venus at %2°, the Earth at %3° and Mars at %4°. ")
-                      .arg(longitude(Planet::Mercury, julianDay))
-                      .arg(longitude(Planet::Venus, julianDay))
-                      .arg(longitude(Planet::Earth, julianDay))
-                      .arg(longitude(Planet::Mars, julianDay))
-                + QStringLiteral("The picture shortens distances from the Sun to their power 0.4; sizes are not to scale.");
+    text.info =
+        QStringLiteral(
+            "On %1 at noon UT Venus is %2, Mars %3, Jupiter %4 and Saturn %5 times as far "
+            "from the Earth as the Sun is on average. ")
+            .arg(longDate(dateOf(julianDay)), distanceText(Planet::Venus, julianDay),
+                 distanceText(Planet::Mars, julianDay), distanceText(Planet::Jupiter, julianDay),
+                 distanceText(Planet::Saturn, julianDay))
+        + QStringLiteral("Seen from the Sun, Mercury stands at longitude %1°, Venus at %2°, the "
+                         "Earth at %3° and Mars at %4°. ")
+              .arg(longitude(Planet::Mercury, julianDay))
+              .arg(longitude(Planet::Venus, julianDay))
+              .arg(longitude(Planet::Earth, julianDay))
+              .arg(longitude(Planet::Mars, julianDay))
+        + QStringLiteral("The picture shortens distances from the Sun to their power 0.4; sizes "
+                         "are not to scale.");
     return text;
 }
 

@@ -32,7 +32,8 @@ QImage paintPlanets(double julianDay, QSize size, int threads)
 {
     const Frame frame(size);
     const SolarView view(frame);
-    const SmoothField backdrop(frame, threads, [&](float x, float y) { return solarBackdrop(view, frame, x, y); });
+    const SmoothField backdrop(frame, threads,
+                               [&](float x, float y) { return solarBackdrop(view, frame, x, y); });
     const std::vector<Star> stars = scatterStars(1781, 9000, [](float, float) { return 0.6f; });
     const std::vector<DustGrain> dust = beltDust(view, frame, julianDay);
     const std::vector<LinePiece> orbits = orbitLines(view, frame, julianDay);
@@ -45,7 +46,9 @@ QImage paintPlanets(double julianDay, QSize size, int threads)
             addSpot(band, grain.x, grain.y, grain.radius, grain.colour);
         for (const LinePiece &piece : orbits)
             addLine(band, piece);
-        const auto nearer = std::find_if(globes.begin(), globes.end(), [&](const Globe &globe) { return globe.depth() < sunDepth; });
+        const auto nearer = std::find_if(globes.begin(), globes.end(), [&](const Globe &globe) {
+            return globe.depth() < sunDepth;
+        });
         std::for_each(globes.begin(), nearer, [&](const Globe &globe) { globe.paint(band); });
         addSun(band, view);
         std::for_each(nearer, globes.end(), [&](const Globe &globe) { globe.paint(band); });

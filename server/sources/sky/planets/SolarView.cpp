@@ -9,23 +9,23 @@ namespace {
 
 constexpr double compression = 0.4;
 constexpr float eyeDistance = 11.2f; ///< Scene units from the Sun.
-constexpr double eyeHeight = 27;     ///< Degrees over the ecliptic.
-constexpr double eyeLongitude = -62; ///< Ecliptic longitude that the eye stands at, degrees.
-constexpr double roll = 7;           ///< Degrees that the picture leans anticlockwise.
-constexpr float focal = 2.17f;       ///< In fine units: Neptune's orbit nearly fills the width.
-constexpr float sunBelow = -0.105f;  ///< Of the middle of the picture, in fine units.
+constexpr double eyeHeight = 30; ///< Degrees over the ecliptic.
+constexpr double eyeLongitude = -30; ///< Ecliptic longitude that the eye stands at, degrees.
+constexpr double roll = 7; ///< Degrees that the picture leans anticlockwise.
+constexpr float focal = 2.10f; ///< In fine units: Neptune's orbit nearly fills the width.
+constexpr float sunBelow = -0.105f; ///< Of the middle of the picture, in fine units.
 
 } // namespace
 
 SolarView::SolarView(const Frame &frame)
-    : m_focal(focal * frame.fineUnit),
-      m_sunX(frame.middleX - 0.012f * frame.fineUnit),
-      m_sunY(frame.middleY + sunBelow * frame.fineUnit)
+    : m_focal(focal * frame.fineUnit)
+    , m_sunX(frame.middleX - 0.012f * frame.fineUnit)
+    , m_sunY(frame.middleY + sunBelow * frame.fineUnit)
 {
     const auto part = [](double value) { return static_cast<float>(value); };
     m_back = {part(cosDeg(eyeHeight) * cosDeg(eyeLongitude)),
               part(cosDeg(eyeHeight) * sinDeg(eyeLongitude)), part(sinDeg(eyeHeight))};
-    const Vec3f level {part(-sinDeg(eyeLongitude)), part(cosDeg(eyeLongitude)), 0};
+    const Vec3f level{part(-sinDeg(eyeLongitude)), part(cosDeg(eyeLongitude)), 0};
     const Vec3f upright = cross(m_back, level);
     m_right = level * part(cosDeg(roll)) - upright * part(sinDeg(roll));
     m_up = upright * part(cosDeg(roll)) + level * part(sinDeg(roll));
@@ -44,8 +44,8 @@ Projected SolarView::project(const Vec3f &scenePlace) const
 {
     const float depth = eyeDistance - dot(scenePlace, m_back);
     const float scale = m_focal / std::max(depth, 0.5f);
-    return {m_sunX + dot(scenePlace, m_right) * scale, m_sunY - dot(scenePlace, m_up) * scale, scale,
-            depth};
+    return {m_sunX + dot(scenePlace, m_right) * scale, m_sunY - dot(scenePlace, m_up) * scale,
+            scale, depth};
 }
 
 Vec3f SolarView::toView(const Vec3f &direction) const

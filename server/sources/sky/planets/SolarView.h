@@ -6,15 +6,17 @@
 namespace moravel::server::sky {
 
 /// A place of the scene on the picture, in samples.
-struct Projected {
+struct Projected
+{
     float x, y;
     float scale; ///< Samples a scene unit at this depth.
     float depth; ///< Scene units in front of the eye.
 };
 
-/// The eye north of the ecliptic. Distances from the Sun are shortened to their power 0.4, so that 0.4
-/// and 30 AU fit one picture: Mercury stands at 0.7, Earth at 1 and Neptune at 3.9 scene units.
-class SolarView {
+/// The eye north of the ecliptic. Distances from the Sun are shortened to their power 0.4, so that
+/// 0.4 and 30 AU fit one picture: Mercury stands at 0.7, Earth at 1 and Neptune at 3.9 scene units.
+class SolarView
+{
 public:
     explicit SolarView(const Frame &frame);
 
