@@ -21,6 +21,26 @@ Colour earthshine(const LunarAspect &aspect)
     return Colour{0.50f, 0.76f, 1.24f} * strength;
 }
 
+/// Sunlight that a cell sends to the viewer. Near the limb, ground behind a crest is out of sight:
+/// what is seen there is the crest, shown as the level ground.
+float sunlight(const MoonSurface &surface, const MoonView &view, int column, int row,
+               const Vec3f &normal)
+{
+    const Vec3f up = surface.place(column, row);
+    const float level = dustyReflection(dot(up, view.light), up.z);
+    const float seen = sunVisible(surface, column, row, view.light);
+    const float facing = 0.25f * up.z + 0.75f * normal.z;
+    const float light = seen > 0 ? seen * dustyReflection(dot(normal, view.light), facing) : 0;
+    if (light > 0.7f * level || up.z > 0.45f)
+        return light;
+    const Vec3f viewer{0, 0, 1};
+    const float inSight =
+        std::min(smoothstep(0.0f, 0.08f, normal.z), sunVisible(surface, column, row, viewer));
+    const float shade =
+        smoothstep(1.0f, 0.92f, view.light.z); // no shadows are seen from the Sun's side
+    return mix(level, light, inSight * (0.2f + 0.8f * shade));
+}
+
 } // namespace
 
 MoonDisc::MoonDisc(const LunarAspect &aspect, int side, int threads)
@@ -45,12 +65,8 @@ void MoonDisc::shadeRow(const MoonSurface &surface, const MoonView &view, const 
     for (int column = 0; column < m_side; ++column) {
         if (!surface.covers(column, row))
             continue;
-        const Vec3f up = surface.place(column, row);
         const Vec3f normal = groundNormal(surface, column, row);
-        const float seen = sunVisible(surface, column, row, view.light);
-        const float sun = seen > 0
-            ? seen * dustyReflection(dot(normal, view.light), 0.25f * up.z + 0.75f * normal.z)
-            : 0;
+        const float sun = sunlight(surface, view, column, row, normal);
         const float earth = 0.55f + 0.45f * std::max(0.0f, normal.z);
         const Colour ground = surface.reflectance(column, row);
         out[column] = ground * (day * sun + night * earth);
