@@ -2,6 +2,7 @@
 #include "platform/qt/HttpExchange.h"
 
 #include "platform/qt/HttpRules.h"
+#include "platform/qt/Inflater.h"
 #include "platform/qt/Log.h"
 #include "platform/qt/OneShotBody.h"
 
@@ -38,6 +39,7 @@ QNetworkRequest networkRequest(const HttpRequest &request)
     out.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
     out.setAttribute(QNetworkRequest::HttpPipeliningAllowedAttribute, false);
     out.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    out.setRawHeader("Accept-Encoding", "gzip"); // also keeps the network layer from unpacking
     out.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("Moravel/" MORAVEL_VERSION));
     for (const auto &[name, value] : request.headers) {
         if (name.toLower() != "content-length") // the network layer counts the body itself
@@ -50,11 +52,10 @@ QNetworkRequest networkRequest(const HttpRequest &request)
 
 } // namespace
 
-HttpExchange::HttpExchange(QNetworkAccessManager &shared, QNetworkAccessManager &fresh,
-                           HttpRequest request, HttpHandlers handlers, QObject *parent)
+HttpExchange::HttpExchange(QNetworkAccessManager &shared, HttpRequest request,
+                           HttpHandlers handlers, QObject *parent)
     : QObject(parent)
     , m_shared(shared)
-    , m_fresh(fresh)
     , m_request(std::move(request))
     , m_handlers(std::move(handlers))
 {
@@ -67,7 +68,7 @@ HttpExchange::HttpExchange(QNetworkAccessManager &shared, QNetworkAccessManager 
 
 HttpExchange::~HttpExchange()
 {
-    dropReply();
+    delete m_reply; // before m_own
 }
 
 void HttpExchange::cancel()
@@ -84,8 +85,9 @@ void HttpExchange::dropReply()
 {
     if (!m_reply)
         return;
+    // Deleting ends the connection too. abort() would set an error of its own, and the network layer
+    // complains when the true one arrives after it.
     m_reply->disconnect(this);
-    m_reply->abort();
     m_reply->deleteLater();
     m_reply.clear();
 }
@@ -97,14 +99,16 @@ void HttpExchange::send()
         m_reply = m_shared.sendCustomRequest(request, m_request.method);
     } else {
         // A kept-alive connection may die as the request goes out, and then nobody knows whether it
-        // arrived: each such request gets its own connection and a body that goes out once.
+        // arrived. So it gets a connection of its own, which takes a manager of its own, and a body
+        // that goes out once.
+        m_own = std::make_unique<QNetworkAccessManager>();
         request.setRawHeader("Connection", "close");
         auto *body = new OneShotBody(m_request.body);
-        m_reply = m_fresh.sendCustomRequest(request, m_request.method, body);
+        m_reply = m_own->sendCustomRequest(request, m_request.method, body);
         body->setParent(m_reply);
     }
     m_reply->setReadBufferSize(BlockBytes);
-    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::head);
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::readLater);
     connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::readLater);
     connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::readLater);
 }
@@ -133,11 +137,17 @@ void HttpExchange::head()
         fail(httprules::tooLarge(m_request.maxBytes));
         return;
     }
+    const QByteArray encoding = m_reply->rawHeader("Content-Encoding").trimmed().toLower();
+    if (encoding == "gzip" || encoding == "x-gzip" || encoding == "deflate") {
+        m_inflater = std::make_unique<Inflater>();
+    } else if (!encoding.isEmpty() && encoding != "identity") {
+        fail(httprules::notUnderstood());
+        return;
+    }
     m_status = status;
-    m_expected = expected;
-    const QByteArray type = m_reply->rawHeader("Content-Type");
+    m_packedLength = expected;
     if (m_handlers.onResponse)
-        m_handlers.onResponse({status, expected, type});
+        m_handlers.onResponse({status, m_inflater ? -1 : expected, m_reply->rawHeader("Content-Type")});
 }
 
 void HttpExchange::follow(int status)
@@ -174,13 +184,37 @@ void HttpExchange::read()
     if (m_over)
         return;
     const bool finished = m_reply->isFinished(); // of the reply that head() left
-    if (m_status == 0 && !finished)
-        return;
-    const QByteArray block = m_status == 0 ? QByteArray() : m_reply->read(BlockBytes);
-    if (block.isEmpty()) {
+    const bool failed = finished && m_reply->error() != QNetworkReply::NoError;
+    if (m_status == 0 || failed) {
         if (finished)
             end();
         return;
+    }
+    readBlock(finished);
+}
+
+void HttpExchange::readBlock(bool finished)
+{
+    QByteArray block;
+    const bool wantsBytes = !m_inflater || m_inflater->needsInput();
+    if (wantsBytes) {
+        block = m_reply->read(BlockBytes);
+        m_packedReceived += block.size();
+        if (block.isEmpty()) {
+            if (finished)
+                end();
+            return;
+        }
+    }
+    if (m_inflater) {
+        if (wantsBytes)
+            m_inflater->feed(block);
+        const std::optional<QByteArray> unpacked = m_inflater->next(BlockBytes);
+        if (!unpacked) {
+            fail(httprules::notUnderstood());
+            return;
+        }
+        block = *unpacked;
     }
     m_received += block.size();
     if (m_received > m_request.maxBytes) {
@@ -188,14 +222,15 @@ void HttpExchange::read()
         return;
     }
     readLater(); // posted first: the handler may cancel
-    if (m_handlers.onData)
+    if (m_handlers.onData && !block.isEmpty())
         m_handlers.onData(block);
 }
 
 bool HttpExchange::isComplete() const
 {
     const bool hasBody = m_request.method != "HEAD" && m_status != 204 && m_status != 304;
-    return !hasBody || m_expected < 0 || m_received == m_expected;
+    const bool hasLength = m_packedLength < 0 || m_packedReceived == m_packedLength;
+    return !hasBody || (hasLength && (!m_inflater || m_inflater->isComplete()));
 }
 
 void HttpExchange::end()

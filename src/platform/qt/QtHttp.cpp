@@ -11,8 +11,7 @@ namespace moravel {
 struct QtHttp::Network
 {
     QNetworkAccessManager shared;
-    QNetworkAccessManager fresh;
-    QObject exchanges; // last: its children use the managers until they are gone
+    QObject exchanges; // last: its children use the manager until they are gone
 };
 
 namespace {
@@ -43,7 +42,7 @@ HttpExchange *QtHttp::send(const HttpRequest &request, HttpHandlers handlers)
 {
     if (!httprules::isSendable(request))
         return nullptr;
-    return new HttpExchange(m_network->shared, m_network->fresh, request, std::move(handlers),
+    return new HttpExchange(m_network->shared, request, std::move(handlers),
                             &m_network->exchanges);
 }
 
