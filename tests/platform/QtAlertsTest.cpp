@@ -1,1 +1,104 @@
-#include <gtest/gtest.h>
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtAlerts.h"
+
+#include "support/ExpectWarning.h"
+#include "support/Wait.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QWidget>
+
+using moravel::QtAlerts;
+
+namespace {
+
+QList<QMessageBox *> openBoxes()
+{
+    QList<QMessageBox *> boxes;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *box = qobject_cast<QMessageBox *>(widget); box && box->isVisible())
+            boxes.append(box);
+    }
+    return boxes;
+}
+
+const QString Title = QStringLiteral("Error storing Moravel data.");
+
+class QtAlertsTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        // The offscreen platform says so of every window of a fixed size.
+        moravel::testing::expectWarning(QStringLiteral("propagateSizeHints"));
+    }
+};
+
+TEST_F(QtAlertsTest, ShowsOneOkAndNoMarkup)
+{
+    QtAlerts alerts;
+    const QString markup = QStringLiteral("<b>bold</b> <img src=\"file:///etc/passwd\"> &amp;");
+    alerts.alert(markup, markup);
+    const auto boxes = openBoxes();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes.first()->buttons().size(), 1);
+    EXPECT_EQ(boxes.first()->standardButtons(), QMessageBox::Ok);
+    int texts = 0;
+    for (const QLabel *label : boxes.first()->findChildren<QLabel *>()) {
+        texts += label->text() == markup ? 1 : 0;
+        EXPECT_TRUE(label->text().isEmpty() || label->textFormat() == Qt::PlainText);
+    }
+    EXPECT_EQ(texts, 2);
+}
+
+TEST_F(QtAlertsTest, BlocksItsWindowOnlyOnceThereIsOne)
+{
+    QtAlerts alerts;
+    QWidget window;
+    alerts.setParentWindow(&window);
+    alerts.alert(Title, QStringLiteral("before"));
+    ASSERT_EQ(openBoxes().size(), 1);
+    EXPECT_EQ(openBoxes().first()->windowModality(), Qt::NonModal);
+    delete openBoxes().first();
+    window.show();
+    alerts.alert(Title, QStringLiteral("after"));
+    ASSERT_EQ(openBoxes().size(), 1);
+    EXPECT_EQ(openBoxes().first()->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(openBoxes().first()->parentWidget(), &window);
+}
+
+TEST_F(QtAlertsTest, DoesNotStackEqualOnes)
+{
+    QtAlerts alerts;
+    const QString longText = QString(50'000, u'x');
+    for (int i = 0; i < 3; ++i) {
+        alerts.alert(Title, longText);
+        alerts.alert(Title, QString());
+    }
+    ASSERT_EQ(openBoxes().size(), 2);
+    EXPECT_LT(openBoxes().first()->informativeText().size(), 5000);
+    const int screenWidth = openBoxes().first()->screen()->availableGeometry().width();
+    for (QMessageBox *box : openBoxes()) {
+        EXPECT_LE(box->width(), screenWidth);
+        box->button(QMessageBox::Ok)->click();
+    }
+    EXPECT_TRUE(openBoxes().isEmpty());
+    alerts.alert(Title, longText);
+    EXPECT_EQ(openBoxes().size(), 1) << "shown again once it was closed";
+}
+
+TEST_F(QtAlertsTest, StopsAtTwenty)
+{
+    moravel::testing::expectWarning(QStringLiteral("too many open alerts"));
+    {
+        QtAlerts alerts;
+        for (int i = 0; i < 30; ++i)
+            alerts.alert(Title, QString::number(i));
+        EXPECT_EQ(openBoxes().size(), 20);
+    }
+    EXPECT_TRUE(openBoxes().isEmpty());
+}
+
+} // namespace

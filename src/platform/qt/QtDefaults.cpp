@@ -59,10 +59,10 @@ std::optional<float> QtDefaults::number(const QString &key) const
 {
     bool ok = false;
     const double value = text(key).value_or(QString()).toDouble(&ok);
-    const bool fits = std::abs(value) <= double(std::numeric_limits<float>::max());
-    if (!ok || (std::isfinite(value) && !fits))
+    const auto narrowed = static_cast<float>(value); // infinite when it is out of range
+    if (!ok || (std::isinf(narrowed) && std::isfinite(value)))
         return std::nullopt;
-    return static_cast<float>(value);
+    return narrowed;
 }
 
 std::optional<bool> QtDefaults::boolean(const QString &key) const
