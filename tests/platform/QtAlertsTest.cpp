@@ -27,7 +27,8 @@ QList<QMessageBox *> openBoxes()
 
 const QString Title = QStringLiteral("Error storing Moravel data.");
 
-class QtAlertsTest : public testing::Test {
+class QtAlertsTest : public testing::Test
+{
 protected:
     void SetUp() override
     {

@@ -15,10 +15,12 @@ using moravel::testing::TempHome;
 
 namespace {
 
-class QtDefaultsTest : public testing::Test {
+class QtDefaultsTest : public testing::Test
+{
 protected:
     /// Stores by @p store, and opens a copy of the file, which nothing in this process knows yet.
-    template <typename Store> std::unique_ptr<QtDefaults> reopened(Store store)
+    template <typename Store>
+    std::unique_ptr<QtDefaults> reopened(Store store)
     {
         const QString path = home.path(QStringLiteral("store%1.ini").arg(++m_files));
         {
@@ -39,7 +41,7 @@ private:
 
 TEST_F(QtDefaultsTest, ListsComeBackAsTheyWere)
 {
-    const QList<QStringList> lists {
+    const QList<QStringList> lists{
         {},
         {QString()},
         {QString(), QString()},
@@ -49,7 +51,8 @@ TEST_F(QtDefaultsTest, ListsComeBackAsTheyWere)
         {QStringLiteral("@ByteArray(x)")},
         {QStringLiteral("\"quoted\""), QStringLiteral("back\\slash"), QStringLiteral("semi;colon")},
         {QStringLiteral(" spaces "), QStringLiteral("tab\tline\nreturn\r")},
-        {QString::fromUtf8("Bild für den Tag"), QString::fromUtf8("日々の写真 🌄"), QStringLiteral("%41")},
+        {QString::fromUtf8("Bild für den Tag"), QString::fromUtf8("日々の写真 🌄"),
+         QStringLiteral("%41")},
         {QStringLiteral("nul") + QChar(0) + QStringLiteral("nul"), QStringLiteral("[General]")},
         {QString(100'000, u'x')},
     };
@@ -83,14 +86,16 @@ TEST_F(QtDefaultsTest, NumbersComeBackExactly)
 
 TEST_F(QtDefaultsTest, HandEditedValues)
 {
-    struct Case {
+    struct Case
+    {
         const char *line;
         std::optional<QStringList> list;
         std::optional<qint64> integer;
         std::optional<float> number;
         std::optional<bool> boolean;
     };
-    const QList<Case> cases {
+
+    const QList<Case> cases{
         {"", {}, {}, {}, {}},
         {"sources=", {}, {}, {}, {}},
         {"sources=7", {}, 7, 7.0F, {}},
@@ -146,7 +151,8 @@ TEST_F(QtDefaultsTest, KeepsTheUsersFileInTheConfigurationFolder)
         QtDefaults defaults;
         defaults.setBoolean(QStringLiteral("play"), true);
     }
-    const QString path = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Moravel/Moravel.ini");
+    const QString path =
+        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/Moravel/Moravel.ini");
     EXPECT_EQ(TempHome::read(path), "[General]\nplay=true\n");
 }
 

@@ -55,7 +55,8 @@ QByteArray noise(int size)
     return bytes;
 }
 
-class QtHttpTest : public testing::Test {
+class QtHttpTest : public testing::Test
+{
 protected:
     FetchResult fetch(const HttpRequest &request)
     {
@@ -63,7 +64,7 @@ protected:
         http.fetch(request, [&](FetchResult answer) { result = std::move(answer); });
         EXPECT_FALSE(result) << "called back from within fetch()";
         EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
-        return result.value_or(tl::unexpected(HttpError {-1, QStringLiteral("no answer")}));
+        return result.value_or(tl::unexpected(HttpError{-1, QStringLiteral("no answer")}));
     }
 
     LoopbackServer server;
@@ -126,15 +127,15 @@ TEST_F(QtHttpTest, RefusesWhatCannotBeSent)
     split.headers = {{"X-Name", "a\r\nX-Other: b"}};
     HttpRequest method = get(server.url());
     method.method = "GET / HTTP/1.1\r\nX:";
-    const QList<HttpRequest> requests {get(QUrl()),
-                                       get(QUrl(QStringLiteral("file:///etc/passwd"))),
-                                       get(QUrl(QStringLiteral("ftp://127.0.0.1/x"))),
-                                       get(QUrl(QStringLiteral("data:text/plain,x"))),
-                                       get(QUrl(QStringLiteral("qrc:/x"))),
-                                       get(QUrl(QStringLiteral("http:///x"))),
-                                       get(QUrl(QStringLiteral("relative"))),
-                                       split,
-                                       method};
+    const QList<HttpRequest> requests{get(QUrl()),
+                                      get(QUrl(QStringLiteral("file:///etc/passwd"))),
+                                      get(QUrl(QStringLiteral("ftp://127.0.0.1/x"))),
+                                      get(QUrl(QStringLiteral("data:text/plain,x"))),
+                                      get(QUrl(QStringLiteral("qrc:/x"))),
+                                      get(QUrl(QStringLiteral("http:///x"))),
+                                      get(QUrl(QStringLiteral("relative"))),
+                                      split,
+                                      method};
     for (const HttpRequest &request : requests) {
         SCOPED_TRACE(request.url.toEncoded().constData());
         EXPECT_FALSE(http.start(request, {}));
@@ -143,7 +144,8 @@ TEST_F(QtHttpTest, RefusesWhatCannotBeSent)
     EXPECT_EQ(server.connectionCount(), 0);
 }
 
-struct HostileCase {
+struct HostileCase
+{
     const char *name;
     Answer answer;
     int status = 0;
@@ -153,12 +155,12 @@ struct HostileCase {
 TEST_F(QtHttpTest, FailsOnHostileAnswers)
 {
     const QByteArray text(1000, 'x');
-    const LoopbackServer::Headers isPacked {{"Content-Encoding", "deflate"}};
+    const LoopbackServer::Headers isPacked{{"Content-Encoding", "deflate"}};
     const QByteArray packed = deflated(noise(100'000));
     const char *lost = "connection was lost";
     const char *odd = "not be understood";
     const char *large = "larger than";
-    const QList<HostileCase> cases {
+    const QList<HostileCase> cases{
         {"garbage", {.raw = QByteArray("\0\1\2\3garbage\n\n\n", 14), .close = true}, 0, lost},
         {"garbage, kept open", {.raw = QByteArray(100'000, '\xEE')}, 0, lost},
         {"a mail server", {.raw = "220 mail ESMTP\r\n", .close = true}, 0, lost},
@@ -175,23 +177,39 @@ TEST_F(QtHttpTest, FailsOnHostileAnswers)
          0,
          lost},
         {"packed, ends early", {.body = packed.left(50'000), .headers = isPacked}, 0, lost},
-        {"packed, never ends", {.raw = "HTTP/1.0 200 OK\r\nContent-Encoding: deflate\r\n\r\n" + packed.left(50'000), .close = true}, 0, lost},
+        {"packed, never ends",
+         {.raw = "HTTP/1.0 200 OK\r\nContent-Encoding: deflate\r\n\r\n" + packed.left(50'000),
+          .close = true},
+         0,
+         lost},
         {"not packed at all", {.body = "\x78\xDA" + text, .headers = isPacked}, 0, odd},
         {"packed unknown", {.body = text, .headers = {{"Content-Encoding", "snappy"}}}, 0, odd},
-        {"length is a word", {.body = text, .headers = {{"Content-Length", "ten"}}, .close = true}, 0, odd},
-        {"length below zero", {.body = text, .headers = {{"Content-Length", "-7"}}, .close = true}, 0, odd},
+        {"length is a word",
+         {.body = text, .headers = {{"Content-Length", "ten"}}, .close = true},
+         0,
+         odd},
+        {"length below zero",
+         {.body = text, .headers = {{"Content-Length", "-7"}}, .close = true},
+         0,
+         odd},
         {"announces too much", {.headers = {{"Content-Length", "4194305"}}}, 0, large},
         {"announces the moon", {.headers = {{"Content-Length", "999999999999999999"}}}, 0, large},
-        {"50 MB in a line", {.raw = "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(50'000'000, 'x')}, 0, large},
-        {"50 MB chunk", {.body = QByteArray(50'000'000, 'x'), .chunked = true}, 0, large},
-        {"bomb",
-         {.body = deflated(QByteArray(200'000'000, 'x')), .headers = isPacked},
+        {"50 MB in a line",
+         {.raw = "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(50'000'000, 'x')},
          0,
          large},
+        {"50 MB chunk", {.body = QByteArray(50'000'000, 'x'), .chunked = true}, 0, large},
+        {"bomb", {.body = deflated(QByteArray(200'000'000, 'x')), .headers = isPacked}, 0, large},
         {"500", {.status = 500, .body = "secret"}, 500, "500 (internal error)"},
         {"404", {.status = 404}, 404, "404 (not found)"},
-        {"401", {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"x\""}}}, 401, "login"},
-        {"407", {.status = 407, .headers = {{"Proxy-Authenticate", "Basic realm=\"x\""}}}, 407, "407"},
+        {"401",
+         {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"x\""}}},
+         401,
+         "login"},
+        {"407",
+         {.status = 407, .headers = {{"Proxy-Authenticate", "Basic realm=\"x\""}}},
+         407,
+         "407"},
         {"to a file", LoopbackServer::redirect("file:///etc/passwd"), 302, "forbidden address"},
         {"to data", LoopbackServer::redirect("data:text/plain,hello"), 301, "forbidden address"},
         {"to ftp", LoopbackServer::redirect("ftp://127.0.0.1/"), 302, "forbidden address"},
@@ -215,18 +233,20 @@ TEST_F(QtHttpTest, FailsOnHostileAnswers)
 TEST_F(QtHttpTest, TakesUnusualButSoundAnswers)
 {
     const QByteArray text = QByteArray("many words ").repeated(20'000);
-    const QList<std::pair<const char *, Answer>> cases {
+    const QList<std::pair<const char *, Answer>> cases{
         {"chunked", {.body = text, .chunked = true}},
         {"until the end", {.raw = "HTTP/1.0 200 OK\r\n\r\n" + text, .close = true}},
         {"packed", {.body = deflated(text), .headers = {{"Content-Encoding", "deflate"}}}},
         {"packed chunks",
          {.body = deflated(text), .headers = {{"Content-Encoding", "deflate"}}, .chunked = true}},
-        {"more than it said", {.body = text + "HTTP/1.1 200 OK\r\n\r\nforged",
-                               .headers = {{"Content-Length", QByteArray::number(text.size())}}}},
+        {"more than it said",
+         {.body = text + "HTTP/1.1 200 OK\r\n\r\nforged",
+          .headers = {{"Content-Length", QByteArray::number(text.size())}}}},
         {"after that", {.body = text}},
         {"closing", {.body = text, .close = true}},
         {"moved", LoopbackServer::redirect("chunked", 308)},
-        {"moved elsewhere", LoopbackServer::redirect(server.url(QStringLiteral("/packed")).toEncoded())},
+        {"moved elsewhere",
+         LoopbackServer::redirect(server.url(QStringLiteral("/packed")).toEncoded())},
     };
     for (const auto &[name, answer] : cases) {
         SCOPED_TRACE(name);
@@ -242,7 +262,8 @@ TEST_F(QtHttpTest, TakesUnusualButSoundAnswers)
 TEST_F(QtHttpTest, FollowsFiveRedirectsAndNoMore)
 {
     for (int i = 0; i < 6; ++i)
-        server.answer("/" + QByteArray::number(i), LoopbackServer::redirect(QByteArray::number(i + 1)));
+        server.answer("/" + QByteArray::number(i),
+                      LoopbackServer::redirect(QByteArray::number(i + 1)));
     server.answer("/6", {.body = "there"});
     EXPECT_EQ(fetch(get(server.url(QStringLiteral("/1")))).value_or("failed"), "there");
     EXPECT_EQ(fetch(get(server.url(QStringLiteral("/0")))).error().status, 302);
@@ -267,14 +288,15 @@ TEST_F(QtHttpTest, NeverRepostsToARedirect)
 
 TEST_F(QtHttpTest, PostsOnceWhateverTheConnectionDoes)
 {
-    const QList<std::pair<const char *, Answer>> deaths {
+    const QList<std::pair<const char *, Answer>> deaths{
         {"closed before the answer", {.raw = "", .close = true}},
         {"cut in the status line", {.body = "x", .cutAfter = 5}},
         {"cut in the head", {.body = "x", .cutAfter = 30}},
         {"cut in the body", {.body = "xxxx", .headers = {{"Content-Length", "10"}}, .close = true}},
     };
     for (const auto &[name, answer] : deaths) {
-        for (const QByteArray &body : {QByteArray(), QByteArray("a=b"), QByteArray(3'000'000, 'b')}) {
+        for (const QByteArray &body :
+             {QByteArray(), QByteArray("a=b"), QByteArray(3'000'000, 'b')}) {
             SCOPED_TRACE(name);
             SCOPED_TRACE(body.size());
             const QUrl warm = server.url(QStringLiteral("/warm/%1").arg(QLatin1String(name)));
@@ -337,6 +359,7 @@ TEST_F(QtHttpTest, TotalDeadlineEndsAnAnswerThatDripsOn)
 TEST_F(QtHttpTest, CancelledCallsStaySilent)
 {
     enum When { AtOnce, InResponse, InData, InFinished, InFailed };
+
     server.answer("/ok", {.body = QByteArray(600'000, 'x')});
     server.answer("/bad", {.status = 500});
     for (const When when : {AtOnce, InResponse, InData, InFinished, InFailed}) {
@@ -358,7 +381,8 @@ TEST_F(QtHttpTest, CancelledCallsStaySilent)
         if (when == AtOnce)
             call.reset();
         MORAVEL_WAIT(!call);
-        fetch(get(server.url(QStringLiteral("/bad")))); // time for anything that still wanted to come
+        fetch(
+            get(server.url(QStringLiteral("/bad")))); // time for anything that still wanted to come
         EXPECT_EQ(events.isEmpty() ? AtOnce : events.last(), when);
     }
 }

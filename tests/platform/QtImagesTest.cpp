@@ -1,1 +1,300 @@
-#include <gtest/gtest.h>
+// SPDX-License-Identifier: MIT
+#include "platform/qt/QtImages.h"
+
+#include "support/TempHome.h"
+#include "support/Wait.h"
+
+#include <QBuffer>
+#include <QIcon>
+#include <QImageWriter>
+#include <QtEndian>
+
+#include <optional>
+#include <random>
+#include <sys/stat.h>
+
+using moravel::QtImages;
+using moravel::testing::TempHome;
+
+namespace {
+
+const QSize Size(64, 48);
+
+QImage noise(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    std::mt19937 random(7);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixel(x, y, uint(random()));
+    }
+    return image;
+}
+
+QByteArray encoded(const QImage &image, const char *format)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(90);
+    EXPECT_TRUE(writer.write(image)) << format << qPrintable(writer.errorString());
+    return buffer.data();
+}
+
+QByteArray progressiveJpeg()
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setProgressiveScanWrite(true);
+    EXPECT_TRUE(writer.write(noise(Size)));
+    return buffer.data();
+}
+
+/// A JPEG whose camera was held on its side (Exif orientation 6: turn right to see it upright).
+QByteArray turnedJpeg()
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "jpeg");
+    writer.setTransformation(QImageIOHandler::TransformationRotate90);
+    EXPECT_TRUE(writer.write(noise(Size)));
+    return buffer.data();
+}
+
+/// A GIF of @p frames equal frames; each pixel takes nine bits, as the code table is cleared in time.
+QByteArray gif(int frames)
+{
+    const auto word = [](int value) {
+        return QByteArray(1, char(value & 0xFF)) + char(value >> 8);
+    };
+    QByteArray bytes =
+        "GIF89a" + word(Size.width()) + word(Size.height()) + QByteArray("\xF7\0\0", 3);
+    for (int i = 0; i < 256; ++i)
+        bytes += QByteArray(3, char(i));
+    QByteArray codes;
+    quint32 bits = 0;
+    int count = 0;
+    const auto put = [&](quint32 code) {
+        bits |= code << count;
+        for (count += 9; count >= 8; count -= 8, bits >>= 8)
+            codes += char(bits & 0xFF);
+    };
+    for (int i = 0; i < Size.width() * Size.height(); ++i) {
+        if (i % 200 == 0)
+            put(256); // clear
+        put(quint32(i * 7 % 256));
+    }
+    put(257); // end
+    codes += char(bits & 0xFF);
+    for (int frame = 0; frame < frames; ++frame) {
+        bytes += ',' + word(0) + word(0) + word(Size.width()) + word(Size.height())
+            + QByteArray("\0\x08", 2);
+        for (qsizetype i = 0; i < codes.size(); i += 255) {
+            const QByteArray block = codes.mid(i, 255);
+            bytes += char(block.size()) + block;
+        }
+        bytes += '\0';
+    }
+    return bytes + ';';
+}
+
+QByteArray pngHead(quint32 width, quint32 height)
+{
+    QByteArray bytes = encoded(noise({1, 1}), "png");
+    qToBigEndian(width, bytes.data() + 16);
+    qToBigEndian(height, bytes.data() + 20);
+    quint32 crc = 0xFFFFFFFF; // of the type and the data of the first chunk
+    for (int i = 12; i < 29; ++i) {
+        crc ^= quint8(bytes[i]);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = crc & 1 ? (crc >> 1) ^ 0xEDB88320 : crc >> 1;
+    }
+    qToBigEndian(~crc, bytes.data() + 29);
+    return bytes;
+}
+
+class QtImagesTest : public testing::Test
+{
+protected:
+    QSize check(const QString &path)
+    {
+        std::optional<QSize> result;
+        images.check(path, [&](QSize size) { result = size; });
+        EXPECT_FALSE(result);
+        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
+        return result.value_or(QSize(-1, -1));
+    }
+
+    QSize check(const QByteArray &bytes)
+    {
+        return check(home.write(QStringLiteral("picture.jpg"), bytes));
+    }
+
+    QImage load(const QByteArray &bytes, QSize box)
+    {
+        const QString path = home.write(QStringLiteral("picture"), bytes);
+        std::optional<QImage> result;
+        images.load(path, box, [&](const QImage &image) { result = image; });
+        EXPECT_FALSE(result);
+        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
+        return result.value_or(QImage());
+    }
+
+    TempHome home;
+    QtImages images;
+};
+
+TEST_F(QtImagesTest, ChecksCompletePicturesAndRefusesEveryCut)
+{
+    QImage translucent = noise(Size).convertToFormat(QImage::Format_ARGB32);
+    translucent.fill(QColor(10, 20, 30, 40));
+    const QList<std::pair<const char *, QByteArray>> pictures{
+        {"jpeg", encoded(noise(Size), "jpeg")},
+        {"progressive jpeg", progressiveJpeg()},
+        {"png", encoded(noise(Size), "png")},
+        {"translucent png", encoded(translucent, "png")},
+        {"palette png", encoded(noise(Size).convertToFormat(QImage::Format_Indexed8), "png")},
+        {"webp", encoded(noise(Size), "webp")},
+        {"bmp", encoded(noise(Size), "bmp")},
+        {"grey bmp", encoded(noise(Size).convertToFormat(QImage::Format_Indexed8), "bmp")},
+        {"tiff", encoded(noise(Size), "tiff")},
+        {"gif", gif(1)},
+        {"animation", gif(3)},
+    };
+    for (const auto &[name, bytes] : pictures) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(check(bytes), Size);
+        EXPECT_EQ(load(bytes, {1000, 1000}).size(), Size);
+        const qsizetype step = bytes.size() / 25 + 1;
+        for (qsizetype length = 0; length < bytes.size(); length += step) {
+            SCOPED_TRACE(length);
+            EXPECT_EQ(check(bytes.left(length)), QSize());
+        }
+        // Of a PNG, the last four bytes are the checksum of the end mark: the picture is whole.
+        const qsizetype leastMissing = bytes.startsWith("\x89PNG") ? 5 : 1;
+        for (qsizetype missing = leastMissing; missing <= 16; ++missing) {
+            SCOPED_TRACE(missing);
+            EXPECT_EQ(check(bytes.chopped(missing)), QSize());
+        }
+    }
+}
+
+TEST_F(QtImagesTest, RefusesHostileFiles)
+{
+    const QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>";
+    QByteArray wideBmp = encoded(noise(Size), "bmp");
+    qToLittleEndian<qint32>(0x7FFFFFFF, wideBmp.data() + 18);
+    qToLittleEndian<qint32>(-0x7FFFFFFF, wideBmp.data() + 22);
+    QByteArray tallJpeg = encoded(noise(Size), "jpeg");
+    const qsizetype frame = tallJpeg.indexOf("\xFF\xC0");
+    tallJpeg.replace(frame + 5, 4, "\xFF\xFE\xFF\xFE");
+    QByteArray spoiled = encoded(noise({400, 300}), "png");
+    spoiled.replace(spoiled.size() / 2, 100, QByteArray(100, 'x'));
+    const QList<std::pair<const char *, QByteArray>> files{
+        {"empty", ""},
+        {"page", "<html><body>404 Not Found</body></html>"},
+        {"vector", svg},
+        {"document", "%PDF-1.4\n1 0 obj\n<<>>\nendobj\n"},
+        {"bare JPEG mark", "\xFF\xD8\xFF"},
+        {"JPEG marks", QByteArray("\xFF\xD8\xFF").repeated(1000)},
+        {"bare BMP mark", "BM"},
+        {"text in BM", QByteArray("BMW is a car maker. ").repeated(100)},
+        {"bare GIF mark", "GIF89a"},
+        {"bare TIFF mark", QByteArray("II*\0", 4) + QByteArray(100, '\xFF')},
+        {"bare WebP mark", QByteArray("RIFF\0\0\0\0WEBPVP8 ", 16) + QByteArray(100, '\xFF')},
+        {"wide and tall PNG", pngHead(60'000, 60'000)},
+        {"endless PNG", pngHead(0x7FFFFFFF, 0x7FFFFFFF)},
+        {"129 megapixels", pngHead(12'000, 11'500)},
+        {"wide BMP", wideBmp},
+        {"tall JPEG", tallJpeg},
+        {"spoiled PNG", spoiled},
+    };
+    for (const auto &[name, bytes] : files) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(check(bytes), QSize());
+        EXPECT_TRUE(load(bytes, {200, 200}).isNull());
+    }
+}
+
+TEST_F(QtImagesTest, RefusesWhatIsNoFile)
+{
+    const QString pipe = home.path(QStringLiteral("pipe.jpg"));
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    for (const QString &path :
+         {QString(), home.path(), home.path(QStringLiteral("missing.jpg")), pipe,
+          QStringLiteral("/dev/zero"), QStringLiteral(":/moravel/blank.png.x")}) {
+        SCOPED_TRACE(qPrintable(path));
+        EXPECT_EQ(check(path), QSize());
+    }
+}
+
+TEST_F(QtImagesTest, FitsTheBoxUprightAndNeverEnlarges)
+{
+    struct Case
+    {
+        QByteArray bytes;
+        QSize box;
+        QSize expected;
+    };
+
+    const QByteArray jpeg = encoded(noise({400, 200}), "jpeg");
+    const QByteArray line = encoded(noise({4000, 1}), "png");
+    const QList<Case> cases{
+        {jpeg, {200, 200}, {200, 100}},
+        {jpeg, {100, 10}, {20, 10}},
+        {jpeg, {400, 200}, {400, 200}},
+        {jpeg, {9000, 9000}, {400, 200}},
+        {jpeg, {0, 0}, {0, 0}},
+        {line, {100, 100}, {100, 1}},
+        {turnedJpeg(), {100, 100}, {48, 64}},
+        {turnedJpeg(), {24, 1000}, {24, 32}},
+        {gif(1), {32, 32}, {32, 24}},
+        {encoded(noise(Size), "bmp"), {32, 32}, {32, 24}},
+        {encoded(noise(Size), "webp"), {32, 32}, {32, 24}},
+        {encoded(noise(Size), "tiff"), {32, 32}, {32, 24}},
+    };
+    for (const Case &fit : cases) {
+        SCOPED_TRACE(fit.box.width());
+        SCOPED_TRACE(fit.bytes.left(4).toHex().constData());
+        EXPECT_EQ(load(fit.bytes, fit.box).size(), fit.expected);
+    }
+    EXPECT_EQ(check(turnedJpeg()), Size.transposed());
+}
+
+TEST_F(QtImagesTest, AnswersEachCallOnceAndNoneWhenDestroyed)
+{
+    const QString path = home.write(QStringLiteral("big.png"), encoded(noise({2000, 1500}), "png"));
+    int answers = 0;
+    for (int i = 0; i < 20; ++i)
+        images.load(home.path(QStringLiteral("missing")), Size, [&](const QImage &) { ++answers; });
+    MORAVEL_WAIT(answers == 20);
+
+    auto brief = std::make_unique<QtImages>();
+    const auto captured = std::make_shared<int>();
+    for (int i = 0; i < 20; ++i)
+        brief->load(path, Size, [captured](const QImage &) { FAIL(); });
+    brief.reset();
+    EXPECT_EQ(captured.use_count(), 1);
+    QCoreApplication::processEvents();
+}
+
+TEST_F(QtImagesTest, KnowsPictureExtensions)
+{
+    for (const char *known : {"jpg", "JPG", "Jpeg", "png", "gif", "webp", "bmp", "tif", "TIFF"})
+        EXPECT_TRUE(images.isImageExtension(QLatin1String(known))) << known;
+    for (const char *unknown :
+         {"", "svg", "pdf", "ico", "txt", "html", ".jpg", "jp", "jpg ", "part"})
+        EXPECT_FALSE(images.isImageExtension(QLatin1String(unknown))) << unknown;
+}
+
+TEST_F(QtImagesTest, HasItsOwnPictures)
+{
+    for (const char *name : {"blank", "Trashcan", "Prefs"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(images.resource(QLatin1String(name)).size(), QSize(400, 225));
+    }
+    EXPECT_TRUE(images.resource(QStringLiteral("../moravel/nothing")).isNull());
+    const QIcon icon(QStringLiteral(":/moravel/icon.svg"));
+    for (const int size : {16, 48, 256})
+        EXPECT_EQ(icon.pixmap(size).size(), QSize(size, size));
+}
+
+} // namespace

@@ -13,7 +13,8 @@ namespace {
 
 constexpr double Day = 86'400;
 
-class QtMainLoopTest : public testing::Test {
+class QtMainLoopTest : public testing::Test
+{
 protected:
     std::function<void()> note(const char *name)
     {

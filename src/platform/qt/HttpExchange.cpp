@@ -147,7 +147,8 @@ void HttpExchange::head()
     m_status = status;
     m_packedLength = expected;
     if (m_handlers.onResponse)
-        m_handlers.onResponse({status, m_inflater ? -1 : expected, m_reply->rawHeader("Content-Type")});
+        m_handlers.onResponse(
+            {status, m_inflater ? -1 : expected, m_reply->rawHeader("Content-Type")});
 }
 
 void HttpExchange::follow(int status)

@@ -12,8 +12,7 @@ constexpr int WindowBits = MAX_WBITS + 32;
 
 } // namespace
 
-Inflater::Inflater()
-    : m_stream(std::make_unique<z_stream_s>())
+Inflater::Inflater() : m_stream(std::make_unique<z_stream_s>())
 {
     if (inflateInit2(m_stream.get(), WindowBits) != Z_OK)
         qFatal("out of memory");

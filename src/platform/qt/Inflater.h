@@ -13,7 +13,8 @@ namespace moravel {
 /// Unpacks gzip and zlib data as it arrives, a bounded block at a time.
 ///
 /// The network layer has a decoder too, but takes an answer that was cut off for a complete one.
-class Inflater {
+class Inflater
+{
 public:
     Inflater();
     ~Inflater();

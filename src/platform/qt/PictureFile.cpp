@@ -29,8 +29,7 @@ public:
     {
         if (!m_file.openPicture())
             return;
-        m_head = m_file.peek(pictureformat::HeadBytes);
-        m_format = pictureformat::fromContent(m_head);
+        m_format = pictureformat::fromContent(m_file.peek(pictureformat::HeadBytes));
         if (m_format.isEmpty())
             return;
         m_reader.setDevice(&m_file);
@@ -55,10 +54,11 @@ public:
         return m_reader.read();
     }
 
-    bool isComplete() const
+    bool isComplete()
     {
-        return !m_file.wasTooShort()
-            && pictureformat::hasAnnouncedLength(m_format, m_head, m_file.size());
+        // The GIF decoder always reads to the end.
+        const bool wasLongEnough = m_format == "gif" || !m_file.wasTooShort();
+        return wasLongEnough && pictureformat::hasAnnouncedLength(m_format, m_file);
     }
 
 private:
@@ -68,7 +68,6 @@ private:
     }
 
     WatchedFile m_file;
-    QByteArray m_head;
     QByteArray m_format;
     QImageReader m_reader;
     QSize m_size;

@@ -2,6 +2,7 @@
 #include "platform/qt/PictureFormat.h"
 
 #include <QHash>
+#include <QIODevice>
 #include <QImageReader>
 #include <QtEndian>
 
@@ -39,6 +40,47 @@ qint64 bmpLength(const QByteArray &head)
     return offset + bytesPerRow * height;
 }
 
+void skip(QIODevice &file, qint64 bytes)
+{
+    file.seek(file.pos() + bytes); // past the end, the next byte is missing
+}
+
+/// Length of the colour table that the flags of a GIF's screen or frame announce.
+qint64 colourTableBytes(int flags)
+{
+    return flags > 0 && flags & 0x80 ? 3LL << ((flags & 7) + 1) : 0;
+}
+
+/// The next byte, or -1 at the end.
+int nextByte(QIODevice &file)
+{
+    char byte = 0;
+    return file.read(&byte, 1) == 1 ? quint8(byte) : -1;
+}
+
+/// Walks over the blocks of a GIF without decoding them.
+bool reachesGifTrailer(QIODevice &file)
+{
+    skip(file, 10);
+    skip(file, colourTableBytes(nextByte(file)) + 2);
+    for (int kind = nextByte(file); kind != ';'; kind = nextByte(file)) {
+        if (kind == ',') { // a frame: its place and size, flags, colour table, and the code size
+            skip(file, 8);
+            skip(file, colourTableBytes(nextByte(file)) + 1);
+        } else if (kind == '!') { // an extension: which one
+            skip(file, 1);
+        } else {
+            return false;
+        }
+        for (int length = nextByte(file); length != 0; length = nextByte(file)) {
+            if (length < 0)
+                return false;
+            skip(file, length);
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 QByteArray fromContent(const QByteArray &head)
@@ -58,12 +100,16 @@ QByteArray fromContent(const QByteArray &head)
     return {};
 }
 
-bool hasAnnouncedLength(const QByteArray &format, const QByteArray &head, qint64 fileSize)
+bool hasAnnouncedLength(const QByteArray &format, QIODevice &file)
 {
+    file.seek(0);
+    if (format == "gif")
+        return reachesGifTrailer(file);
+    const QByteArray head = file.peek(HeadBytes);
     if (format == "webp")
-        return fileSize >= 8 + qint64(littleEndianAt<quint32>(head, 4));
+        return file.size() >= 8 + qint64(littleEndianAt<quint32>(head, 4));
     if (format == "bmp")
-        return fileSize >= bmpLength(head);
+        return file.size() >= bmpLength(head);
     return true;
 }
 

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QIODevice;
+
 namespace moravel::pictureformat {
 
 /// First bytes of a file that fromContent() wants to see.
@@ -15,9 +17,9 @@ inline constexpr qint64 HeadBytes = 64;
 /// of ours. The file's name plays no part.
 QByteArray fromContent(const QByteArray &head);
 
-/// Tells whether the file is at least as long as its own beginning says. Some decoders give half a
-/// picture for a cut-off file without a word. True for formats that keep no length.
-bool hasAnnouncedLength(const QByteArray &format, const QByteArray &head, qint64 fileSize);
+/// Tells whether an open file of this format is as long as it says itself. Some decoders give half a
+/// picture for a cut-off file without a word. True for formats that keep no length; moves the position.
+bool hasAnnouncedLength(const QByteArray &format, QIODevice &file);
 
 /// Tells whether files with this extension (no dot, any case) are pictures that Qt can read here.
 bool isExtension(const QString &extension);

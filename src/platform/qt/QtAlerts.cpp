@@ -82,10 +82,8 @@ void QtAlerts::alert(const QString &title, const QString &text)
     for (QLabel *label : box->findChildren<QLabel *>())
         label->setTextFormat(Qt::PlainText);
     m_open.append(box);
-    if (onWindow)
-        box->open();
-    else
-        box->show();
+    box->setWindowModality(onWindow ? Qt::WindowModal : Qt::NonModal);
+    box->show();
 }
 
 } // namespace moravel

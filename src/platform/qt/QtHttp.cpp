@@ -42,8 +42,7 @@ HttpExchange *QtHttp::send(const HttpRequest &request, HttpHandlers handlers)
 {
     if (!httprules::isSendable(request))
         return nullptr;
-    return new HttpExchange(m_network->shared, request, std::move(handlers),
-                            &m_network->exchanges);
+    return new HttpExchange(m_network->shared, request, std::move(handlers), &m_network->exchanges);
 }
 
 HttpCallHandle QtHttp::start(const HttpRequest &request, HttpHandlers handlers)

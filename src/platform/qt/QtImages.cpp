@@ -36,8 +36,8 @@ void silenceDecoders(QLoggingCategory *category)
         previousFilter(category);
     for (const char *prefix : {"qt.gui.imageio", "qt.imageformats"}) {
         if (std::strncmp(category->categoryName(), prefix, std::strlen(prefix)) == 0) {
-            category->setEnabled(QtWarningMsg, false);
-            category->setEnabled(QtCriticalMsg, false);
+            for (const QtMsgType type : {QtDebugMsg, QtInfoMsg, QtWarningMsg, QtCriticalMsg})
+                category->setEnabled(type, false);
         }
     }
 }
