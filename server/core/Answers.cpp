@@ -26,8 +26,8 @@ QString infoLine(const DayPicture &day)
 
 } // namespace
 
-DayLinks::DayLinks(const QString &baseUrl, const QString &shortName, QDate date)
-    : m_baseUrl(baseUrl), m_shortName(shortName), m_date(date)
+DayLinks::DayLinks(QString baseUrl, QString shortName, QDate date)
+    : m_baseUrl(std::move(baseUrl)), m_shortName(std::move(shortName)), m_date(date)
 { }
 
 QString DayLinks::page() const

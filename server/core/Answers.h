@@ -9,7 +9,7 @@ namespace moravel::server {
 /// Absolute addresses of what belongs to a source and day, below @p baseUrl (no slash at its end).
 struct DayLinks
 {
-    DayLinks(const QString &baseUrl, const QString &shortName, QDate date);
+    DayLinks(QString baseUrl, QString shortName, QDate date);
     QString page() const;
     QString picture(const QString &suffix) const;
 

@@ -10,6 +10,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <array>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -94,8 +95,8 @@ std::optional<Content> CacheFolder::open(const QString &name)
         return std::nullopt;
     }
     // The time of reading is set by hand: file systems are mounted so as not to keep it.
-    const timespec times[2] = {{0, UTIME_NOW}, {0, UTIME_OMIT}};
-    ::futimens(file->handle(), times);
+    const std::array<timespec, 2> times{timespec{0, UTIME_NOW}, timespec{0, UTIME_OMIT}};
+    ::futimens(file->handle(), times.data());
     const QDateTime modified = file->fileTime(QFileDevice::FileModificationTime);
     return Content{{}, std::move(file), "image/jpeg", modified};
 }

@@ -11,6 +11,7 @@
 #include <QJsonObject>
 
 #include <arpa/inet.h>
+#include <array>
 
 namespace moravel::server {
 
@@ -120,7 +121,7 @@ void readFolders(Reader &reader, Config &config, const QDir &base)
     if (!value.isUndefined() && !value.isArray())
         return reader.fail("folderSources", "must be a list");
     const QJsonArray folders = value.toArray();
-    for (const QJsonValue &item : folders) {
+    for (const auto &item : folders) {
         auto folder = readFolder(item, base);
         if (!folder)
             return reader.fail(folder.error());
@@ -153,10 +154,10 @@ tl::expected<Config, QString> readObject(const QJsonObject &object, const QDir &
 
 bool isNumericAddress(const QString &text)
 {
-    unsigned char address[sizeof(in6_addr)];
+    std::array<unsigned char, sizeof(in6_addr)> address{};
     const QByteArray bytes = text.toLatin1();
-    return inet_pton(AF_INET, bytes.constData(), address) == 1
-        || inet_pton(AF_INET6, bytes.constData(), address) == 1;
+    return inet_pton(AF_INET, bytes.constData(), address.data()) == 1
+        || inet_pton(AF_INET6, bytes.constData(), address.data()) == 1;
 }
 
 tl::expected<Config, QString> readConfig(const QString &path)

@@ -27,7 +27,7 @@ bool hasBrokenEscape(const QByteArray &text)
 
 } // namespace
 
-std::optional<QString> percentDecoded(QByteArray text)
+std::optional<QString> percentDecoded(const QByteArray &text)
 {
     if (hasBrokenEscape(text))
         return std::nullopt;

@@ -143,7 +143,7 @@ Response Service::answerDay(const Request &request, const QByteArray &form) cons
 
 Response Service::answerNews() const
 {
-    constexpr qint64 longest = 64 * 1024;
+    constexpr qint64 longest = 65'536;
     if (m_setup.newsFile.isEmpty())
         return textResponse(200, {});
     const auto file = openPlainFile(m_setup.newsFile);

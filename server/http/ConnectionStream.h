@@ -16,7 +16,7 @@ struct ConnectionLimits
     int idleMs = 5000; ///< Between two requests.
     int writeMs = 10'000; ///< Without the client taking a byte.
     int answerMs = 300'000; ///< For a whole answer, however steadily it is taken.
-    std::size_t requestBytes = 96 * 1024; ///< Head and body.
+    std::size_t requestBytes = 98'304; ///< Head and body.
 };
 
 /// A connected socket whose peer cannot hold a thread or memory for long: each request has a

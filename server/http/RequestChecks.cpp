@@ -30,7 +30,7 @@ int lengthRefusal(const httplib::Request &request)
 
 bool sendFile(QFile &file, std::size_t offset, std::size_t length, httplib::DataSink &sink)
 {
-    static constexpr std::size_t chunk = 256 * 1024;
+    static constexpr std::size_t chunk = 262'144;
     if (!file.seek(static_cast<qint64>(offset)))
         return false;
     const QByteArray bytes = file.read(static_cast<qint64>(std::min(length, chunk)));

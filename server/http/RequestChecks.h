@@ -7,7 +7,7 @@
 
 namespace moravel::server {
 
-inline constexpr std::size_t mostBodyBytes = 64 * 1024;
+inline constexpr std::size_t mostBodyBytes = 65'536;
 
 /// The status that refuses a request because of its announced body or its address, or 0. Only a
 /// POST may have a body, uncompressed and of one clear length.

@@ -64,7 +64,7 @@ void Transport::route()
                  response.status = 400;
          });
     set_exception_handler([](const httplib::Request &, httplib::Response &response,
-                             std::exception_ptr) { response.status = 500; });
+                             const std::exception_ptr &) { response.status = 500; });
     set_error_handler([](const httplib::Request &, httplib::Response &response) {
         if (response.body.empty() && response.content_length_ == 0)
             response.set_content(sentenceFor(response.status), "text/plain; charset=utf-8");

@@ -40,7 +40,7 @@ QString xmpText(const Exiv2::XmpData &data, const char *key)
 QString firstOf(std::initializer_list<QString> texts, qsizetype longest)
 {
     for (const QString &text : texts) {
-        const QString line = oneLine(text, longest);
+        QString line = oneLine(text, longest);
         if (!line.isEmpty())
             return line;
     }

@@ -68,7 +68,7 @@ QImage fitted(QFile &file, QSize box)
         box.transpose();
     if (size.width() > box.width() || size.height() > box.height())
         reader.setScaledSize(size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (!image.hasAlphaChannel())
         return image;
     // JPEG has no transparency.
