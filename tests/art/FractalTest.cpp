@@ -110,7 +110,8 @@ TEST(FractalScene, EveryDayHasDetailAtABearableCost)
         }
         EXPECT_LT(inside, 0.2 * kCount);
         EXPECT_GT(lace, 0.05 * kCount);
-        EXPECT_LT(steps / kCount * (scene.rule.deep ? 2 : 1), 150);
+        EXPECT_LT(steps / kCount * (scene.rule.deep ? 2 : 1), 200)
+            << "about 1.3 s for 3840 x 2160 on two cores";
     }
 }
 

@@ -80,7 +80,8 @@ inline float powOf(float base, float exponent)
 inline double sinOf(double radians)
 {
     const double turns = std::floor(radians / kPi + 0.5);
-    const double x = radians - turns * kPi; // [−π/2, π/2]
+    // [−π/2, π/2]; angles too large to be reduced are limited instead of running away.
+    const double x = std::clamp(radians - turns * kPi, -kPi / 2, kPi / 2);
     const double q = x * x;
     double term = x;
     double sum = x;
