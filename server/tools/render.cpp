@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// moravel-render SOURCE YYYY-MM-DD WIDTHxHEIGHT FILE: draws the picture of a day, prints its texts and
-// how long it took.
+// moravel-render SOURCE YYYY-MM-DD WIDTHxHEIGHT FILE: draws the picture of a day, prints its texts
+// and how long it took.
 #include "server/sources/art/Fractal.h"
 #include "server/sources/art/Landscape.h"
 #if __has_include("server/sources/sky/Moon.h")
@@ -54,8 +54,9 @@ int draw(const ComputedSource &source, QDate date, QSize size, const QString &fi
     const double processor = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
     const double elapsed = static_cast<double>(wall.elapsed()) / 1000;
     const DayText text = source.text(date);
-    std::printf("%s | %s | %s | %.3f s, %.3f s of processor\n", qPrintable(date.toString(Qt::ISODate)),
-                text.caption.toUtf8().constData(), text.info.toUtf8().constData(), elapsed, processor);
+    std::printf("%s | %s | %s | %.3f s, %.3f s of processor\n",
+                qPrintable(date.toString(Qt::ISODate)), text.caption.toUtf8().constData(),
+                text.info.toUtf8().constData(), elapsed, processor);
     if (!image.save(file, nullptr, 92)) {
         std::fprintf(stderr, "cannot write %s\n", file.toLocal8Bit().constData());
         return 1;
@@ -67,7 +68,8 @@ int draw(const ComputedSource &source, QDate date, QSize size, const QString &fi
 
 int main(int argc, char *argv[])
 {
-    const QDate date = argc == 5 ? QDate::fromString(QString::fromLocal8Bit(argv[2]), Qt::ISODate) : QDate();
+    const QDate date =
+        argc == 5 ? QDate::fromString(QString::fromLocal8Bit(argv[2]), Qt::ISODate) : QDate();
     const QSize size = argc == 5 ? sizeFrom(QString::fromLocal8Bit(argv[3])) : QSize();
     if (!date.isValid() || size.isEmpty()) {
         std::fputs("usage: moravel-render SOURCE YYYY-MM-DD WIDTHxHEIGHT FILE\n", stderr);

@@ -17,9 +17,9 @@ inline int defaultThreads()
     return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, 16);
 }
 
-/// Calls @p draw(firstRow, endRow) for bands of rows from @p first up to @p end, on @p threads threads
-/// (at least the caller's). The bands are the same for any number of threads, so what @p draw writes
-/// may depend on its band but not on who draws it.
+/// Calls @p draw(firstRow, endRow) for bands of rows from @p first up to @p end, on @p threads
+/// threads (at least the caller's). The bands are the same for any number of threads, so what @p
+/// draw writes may depend on its band but not on who draws it.
 template <typename Draw>
 void forBands(int first, int end, int rowsPerBand, int threads, const Draw &draw)
 {
@@ -35,12 +35,16 @@ void forBands(int first, int end, int rowsPerBand, int threads, const Draw &draw
     work();
 }
 
-/// The pixels of a 32-bit image for several threads: unlike QImage, rows can be had without detaching.
-struct Pixels {
+/// The pixels of a 32-bit image for several threads: unlike QImage, rows can be had without
+/// detaching.
+struct Pixels
+{
     explicit Pixels(QImage &image)
-        : width(image.width()), height(image.height()), m_bits(image.bits()), m_stride(image.bytesPerLine())
-    {
-    }
+        : width(image.width())
+        , height(image.height())
+        , m_bits(image.bits())
+        , m_stride(image.bytesPerLine())
+    { }
 
     std::uint32_t *row(int y) const
     {

@@ -7,7 +7,8 @@ namespace moravel::server::art {
 
 namespace {
 
-struct Lab {
+struct Lab
+{
     float l = 0;
     float a = 0;
     float b = 0;
@@ -66,7 +67,8 @@ float channelLight(float c)
 
 constexpr int kTransferSteps = 4096;
 
-/// sRGB transfer of √light, 0 … 255. Tabulating over the root spends the entries where eyes need them.
+/// sRGB transfer of √light, 0 … 255. Tabulating over the root spends the entries where eyes need
+/// them.
 const std::array<float, kTransferSteps + 2> &transferTable()
 {
     static const auto table = [] {
@@ -74,7 +76,8 @@ const std::array<float, kTransferSteps + 2> &transferTable()
         for (std::size_t i = 0; i < t.size(); ++i) {
             const float root = static_cast<float>(i) / static_cast<float>(kTransferSteps);
             const float v = root * root;
-            t[i] = 255.0F * (v <= 0.0031308F ? 12.92F * v : 1.055F * powOf(v, 1.0F / 2.4F) - 0.055F);
+            t[i] =
+                255.0F * (v <= 0.0031308F ? 12.92F * v : 1.055F * powOf(v, 1.0F / 2.4F) - 0.055F);
         }
         return t;
     }();
@@ -116,10 +119,9 @@ Gradient::Gradient(std::initializer_list<std::uint32_t> hexColours)
         };
         const Lab c[] = {stop(i - 1), stop(i), stop(i + 1), stop(i + 2)};
         const float t = p - static_cast<float>(i);
-        m_table[static_cast<std::size_t>(step)]
-            = toRgb({clamp01(spline(c[0].l, c[1].l, c[2].l, c[3].l, t)),
-                     spline(c[0].a, c[1].a, c[2].a, c[3].a, t),
-                     spline(c[0].b, c[1].b, c[2].b, c[3].b, t)});
+        m_table[static_cast<std::size_t>(step)] = toRgb(
+            {clamp01(spline(c[0].l, c[1].l, c[2].l, c[3].l, t)),
+             spline(c[0].a, c[1].a, c[2].a, c[3].a, t), spline(c[0].b, c[1].b, c[2].b, c[3].b, t)});
     }
 }
 

@@ -10,13 +10,16 @@
 namespace moravel::server::art {
 
 /// Light, linear in intensity, sRGB primaries; 1 is white.
-struct Rgb {
+struct Rgb
+{
     float r = 0;
     float g = 0;
     float b = 0;
 
     Rgb operator+(const Rgb &o) const { return {r + o.r, g + o.g, b + o.b}; }
+
     Rgb operator*(const Rgb &o) const { return {r * o.r, g * o.g, b * o.b}; }
+
     Rgb operator*(float k) const { return {r * k, g * k, b * k}; }
 };
 
@@ -25,13 +28,16 @@ inline Rgb mix(const Rgb &a, const Rgb &b, float t)
     return {mix(a.r, b.r, t), mix(a.g, b.g, t), mix(a.b, b.b, t)};
 }
 
-inline float luminance(const Rgb &c) { return 0.2126F * c.r + 0.7152F * c.g + 0.0722F * c.b; }
+inline float luminance(const Rgb &c)
+{
+    return 0.2126F * c.r + 0.7152F * c.g + 0.0722F * c.b;
+}
 
 /// The light of an sRGB colour written as 0xRRGGBB.
 Rgb fromHex(std::uint32_t hex);
 
-/// Mixes in Oklab (Björn Ottosson, "A perceptual color space for image processing", 2020), where equal
-/// steps look equal and no grey dip lies between complementary colours.
+/// Mixes in Oklab (Björn Ottosson, "A perceptual color space for image processing", 2020), where
+/// equal steps look equal and no grey dip lies between complementary colours.
 Rgb mixPerceptually(const Rgb &a, const Rgb &b, float t);
 
 /// The same colour with its Oklab lightness and chroma multiplied.
@@ -58,8 +64,8 @@ private:
     std::array<Rgb, kSteps + 1> m_table{};
 };
 
-/// Light to an 8-bit pixel: sRGB transfer, then ordered noise of one step in amplitude before rounding,
-/// so that long gradients do not fall into bands.
+/// Light to an 8-bit pixel: sRGB transfer, then ordered noise of one step in amplitude before
+/// rounding, so that long gradients do not fall into bands.
 std::uint32_t toPixel(const Rgb &light, int x, int y);
 
 /// The light of an 8-bit sRGB channel.

@@ -21,7 +21,8 @@ constexpr int kStride = 4;
 
 /// The state of as many orbits as fit a register of @p Bytes.
 template <typename Real, std::size_t Bytes>
-struct Lanes {
+struct Lanes
+{
     typedef Real V __attribute__((vector_size(Bytes)));
     static constexpr std::size_t kCount = Bytes / sizeof(Real);
 
@@ -30,7 +31,8 @@ struct Lanes {
 
 /// One step of z → z^P + c and of its derivative.
 template <int P, typename V>
-[[gnu::always_inline]] inline void step(V &x, V &y, V &dx, V &dy, const V &cx, const V &cy, const V &one)
+[[gnu::always_inline]] inline void step(V &x, V &y, V &dx, V &dy, const V &cx, const V &cy,
+                                        const V &one)
 {
     V px = x; // z^(P−1)
     V py = y;
@@ -135,13 +137,13 @@ void conclude(const EscapeRule &rule, const State &s, std::size_t lane, std::siz
     const double length = std::sqrt(norm * slope);
     o.normalX[at] = static_cast<float>(ux / length);
     o.normalY[at] = static_cast<float>(uy / length);
-    o.distance[at]
-        = static_cast<float>(std::sqrt(norm / slope)) * logNorm * 0.34657359F; // |z| ln|z| / |z′|
+    o.distance[at] =
+        static_cast<float>(std::sqrt(norm / slope)) * logNorm * 0.34657359F; // |z| ln|z| / |z′|
 }
 
 template <typename Real, std::size_t Bytes, int P>
-[[gnu::always_inline]] inline void follow(const EscapeRule &rule, const double *re, const double *im,
-                                          std::size_t count, Orbits &orbits)
+[[gnu::always_inline]] inline void follow(const EscapeRule &rule, const double *re,
+                                          const double *im, std::size_t count, Orbits &orbits)
 {
     Lanes<Real, Bytes> state;
     for (std::size_t at = 0; at < count; at += state.kCount) {
@@ -152,8 +154,8 @@ template <typename Real, std::size_t Bytes, int P>
 }
 
 template <std::size_t Bytes>
-[[gnu::always_inline]] inline void followAny(const EscapeRule &rule, const double *re, const double *im,
-                                             std::size_t count, Orbits &orbits)
+[[gnu::always_inline]] inline void followAny(const EscapeRule &rule, const double *re,
+                                             const double *im, std::size_t count, Orbits &orbits)
 {
     if (rule.deep)
         follow<double, Bytes, 2>(rule, re, im, count, orbits);

@@ -8,21 +8,25 @@ namespace moravel::server::art {
 namespace {
 
 constexpr int kBandRows = 48;
+constexpr int kLargeWidth = 2560;
 /// Relative difference of brightness between neighbours from which a pixel is sampled more finely.
 constexpr float kRough = 0.10F;
 
-/// Sub-pixel offsets of the finer sampling: a rotated grid, no two in one row or column.
-constexpr double kOffsets[][2] = {{-0.375, -0.125}, {0.125, -0.375}, {0.375, 0.125}, {-0.125, 0.375}};
+/// Sub-pixel offsets of the finer sampling: a rotated grid, no two in one row or column. Large
+/// pictures, whose pixels are small to the eye, make do with the first two.
+constexpr double kOffsets[][2] = {
+    {-0.375, -0.125}, {0.375, 0.125}, {0.125, -0.375}, {-0.125, 0.375}};
 
 /// Maps pixels to the plane: the 16 : 9 frame covers the picture, centred.
 class Frame
 {
 public:
     Frame(const FractalView &view, QSize size)
-        : m_view(view), m_unit(view.width / std::max<double>(size.width(), size.height() * 16.0 / 9.0)),
-          m_middleX(size.width() / 2.0), m_middleY(size.height() / 2.0)
-    {
-    }
+        : m_view(view)
+        , m_unit(view.width / std::max<double>(size.width(), size.height() * 16.0 / 9.0))
+        , m_middleX(size.width() / 2.0)
+        , m_middleY(size.height() / 2.0)
+    { }
 
     /// @p x and @p y count from the picture's upper left corner.
     void toPlane(double x, double y, double &re, double &im) const
@@ -54,7 +58,8 @@ Rgb shade(const FractalScene &scene, const Orbits &o, std::size_t i)
     if (o.steps[i] < 0)
         return style.inside;
     const float away = o.distance[i] / static_cast<float>(scene.view.width);
-    const float silk = std::clamp((o.stripe[i] - scene.stripeMean) * scene.stripeScale, -1.0F, 1.0F);
+    const float silk =
+        std::clamp((o.stripe[i] - scene.stripeMean) * scene.stripeScale, -1.0F, 1.0F);
     const float tone = scene.tones.at(o.steps[i]) + style.stripes * silk;
     Rgb colour = style.gradient.at(tone);
     // The light stands in the picture, the normals in the plane: turn them with the view.
@@ -67,20 +72,23 @@ Rgb shade(const FractalScene &scene, const Orbits &o, std::size_t i)
     colour = colour * (1.0F + steepness * 0.75F * facing);
     const float gloss = clamp01(facing);
     const float near = expOf(-260.0F * away);
-    const float light = style.glowStrength * (0.55F * near + 0.16F * steepness * gloss * gloss * gloss * gloss);
+    const float light =
+        style.glowStrength * (0.55F * near + 0.16F * steepness * gloss * gloss * gloss * gloss);
     return mix(colour, style.glow, clamp01(light));
 }
 
-float vignette(float eccentricity) { return 1.0F - 0.34F * eccentricity * eccentricity; }
+float vignette(float eccentricity)
+{
+    return 1.0F - 0.34F * eccentricity * eccentricity;
+}
 
 /// Draws one band of rows. Scratch space is kept from row to row.
 class BandPainter
 {
 public:
     BandPainter(const FractalScene &scene, const Frame &frame, int width)
-        : m_scene(scene), m_frame(frame), m_width(width)
-    {
-    }
+        : m_scene(scene), m_frame(frame), m_width(width), m_extra(width > kLargeWidth ? 2 : 4)
+    { }
 
     void paint(const Pixels &pixels, int first, int end)
     {
@@ -96,7 +104,8 @@ public:
                 m_colours[static_cast<std::size_t>(row) * width + x] = shade(m_scene, m_orbits, x);
         }
         for (int row = 1; row + 1 < rows; ++row)
-            finish(pixels, first - 1 + row, m_colours.data() + static_cast<std::size_t>(row) * width);
+            finish(pixels, first - 1 + row,
+                   m_colours.data() + static_cast<std::size_t>(row) * width);
     }
 
 private:
@@ -131,8 +140,8 @@ private:
             const float l = luminance(other);
             return std::abs(l - own) > kRough * (l + own + 0.04F);
         };
-        return (x > 0 && differs(at[-1])) || (x + 1 < m_width && differs(at[1])) || differs(at[-m_width])
-            || differs(at[m_width]);
+        return (x > 0 && differs(at[-1])) || (x + 1 < m_width && differs(at[1]))
+            || differs(at[-m_width]) || differs(at[m_width]);
     }
 
     /// Samples the rough pixels of a row again and writes the row.
@@ -144,8 +153,8 @@ private:
             if (!isRough(colours + x, x))
                 continue;
             m_rough.push_back(x);
-            for (const auto &offset : kOffsets)
-                add(x + 0.5 + offset[0], y + 0.5 + offset[1]);
+            for (std::size_t k = 0; k < m_extra; ++k)
+                add(x + 0.5 + kOffsets[k][0], y + 0.5 + kOffsets[k][1]);
         }
         follow();
         std::uint32_t *out = pixels.row(y);
@@ -153,9 +162,9 @@ private:
         for (int x = 0; x < m_width; ++x) {
             Rgb colour = colours[x];
             if (next < m_rough.size() && m_rough[next] == x) {
-                for (std::size_t k = 0; k < std::size(kOffsets); ++k)
-                    colour = colour + shade(m_scene, m_orbits, next * std::size(kOffsets) + k);
-                colour = colour * (1.0F / (1 + std::size(kOffsets)));
+                for (std::size_t k = 0; k < m_extra; ++k)
+                    colour = colour + shade(m_scene, m_orbits, next * m_extra + k);
+                colour = colour * (1.0F / static_cast<float>(1 + m_extra));
                 ++next;
             }
             out[x] = toPixel(colour * vignette(m_frame.eccentricity(x + 0.5, y + 0.5)), x, y);
@@ -165,6 +174,7 @@ private:
     const FractalScene &m_scene;
     const Frame &m_frame;
     int m_width;
+    std::size_t m_extra; ///< Samples added to a rough pixel.
     std::vector<double> m_re;
     std::vector<double> m_im;
     Orbits m_orbits;

@@ -10,37 +10,39 @@ namespace moravel::server::art {
 namespace {
 
 /// A place known to be worth a visit; candidates are jittered around it.
-struct Place {
-    double re;      ///< c of a Julia set, or the centre of the view for z₀ = 0.
+struct Place
+{
+    double re; ///< c of a Julia set, or the centre of the view for z₀ = 0.
     double im;
-    double jitter;  ///< Reach of the jitter: of c, or as a share of the width.
+    double jitter; ///< Reach of the jitter: of c, or as a share of the width.
     double width;
     int limit;
 };
 
 /// Constants just outside the Mandelbrot set, where Julia sets are all spirals and lace.
 constexpr Place kJulia[] = {
-    {-0.7463, 0.1102, 0.0008, 2.2, 260},   {-0.7269, 0.1889, 0.0015, 2.4, 240},
-    {-0.8, 0.156, 0.0015, 2.6, 220},       {-0.4, 0.6, 0.004, 2.3, 200},
-    {0.285, 0.0105, 0.0008, 1.9, 260},     {0.355, 0.355, 0.002, 1.9, 220},
-    {-0.70176, -0.3842, 0.002, 2.5, 200},  {-0.835, -0.2321, 0.002, 2.6, 200},
-    {-0.1, 0.6557, 0.002, 2.1, 220},       {0.3535, 0.0990, 0.003, 1.8, 240},
-    {-0.162, 1.0409, 0.002, 2.2, 200},     {-0.7885, 0.1480, 0.002, 2.4, 220},
-    {0.3750, 0.2200, 0.0015, 1.9, 220},     {-0.7102, 0.2860, 0.0015, 2.3, 220},
+    {-0.7463, 0.1102, 0.0008, 2.2, 260},     {-0.7269, 0.1889, 0.0015, 2.4, 240},
+    {-0.8, 0.156, 0.0015, 2.6, 220},         {-0.4, 0.6, 0.004, 2.3, 200},
+    {0.285, 0.0105, 0.0008, 1.9, 260},       {0.355, 0.355, 0.002, 1.9, 220},
+    {-0.70176, -0.3842, 0.002, 2.5, 200},    {-0.835, -0.2321, 0.002, 2.6, 200},
+    {-0.1, 0.6557, 0.002, 2.1, 220},         {0.3535, 0.0990, 0.003, 1.8, 240},
+    {-0.162, 1.0409, 0.002, 2.2, 200},       {-0.7885, 0.1480, 0.002, 2.4, 220},
+    {0.3750, 0.2200, 0.0015, 1.9, 220},      {-0.7102, 0.2860, 0.0015, 2.3, 220},
     {-0.512511, 0.521295, 0.0004, 2.2, 240}, {-0.235125, 0.827215, 0.0015, 2.1, 220},
 };
 
+/// Places of long orbits alternate with cheaper ones to fall back on.
 constexpr Place kMandelbrot[] = {
     {-0.7453, 0.1127, 0.25, 0.0065, 700},
-    {-0.743643887, 0.131825904, 0.15, 0.0018, 800},
-    {-0.761574, -0.0847596, 0.2, 0.0032, 700},
-    {-0.748, 0.1, 0.2, 0.0034, 700},
     {0.2925755, -0.0149977, 0.2, 0.006, 500},
     {0.3245046418, 0.0485510113, 0.2, 0.004, 500},
+    {-0.743643887, 0.131825904, 0.15, 0.0018, 800},
     {-0.088, 0.654, 0.2, 0.014, 400},
     {-0.0452407411, 0.9868162204, 0.2, 0.004, 400},
+    {-0.761574, -0.0847596, 0.2, 0.0032, 700},
     {-0.235125, 0.827215, 0.2, 0.004, 400},
     {-0.170337, -1.06506, 0.2, 0.006, 400},
+    {-0.748, 0.1, 0.2, 0.0034, 700},
     {0.42884, -0.231345, 0.2, 0.008, 400},
     {-1.25066, 0.02012, 0.2, 0.0017, 800},
     {-0.5503, 0.6259, 0.2, 0.009, 500},
@@ -49,10 +51,10 @@ constexpr Place kMandelbrot[] = {
 constexpr int kProbeWidth = 96;
 constexpr int kProbeHeight = 54;
 constexpr int kCandidates = 6; ///< Looked at around one place.
-constexpr int kMostCandidates = 24;
+constexpr int kMostCandidates = 36;
 constexpr double kGoodScore = -0.42; ///< Below, the neighbouring places are looked at too.
 /// Mean steps a point that the time for the largest pictures allows.
-constexpr double kDearestMean = 90;
+constexpr double kDearestMean = 75;
 
 template <std::size_t N>
 const Place &placeOfDay(const Place (&places)[N], std::int64_t day, int detour)
@@ -60,8 +62,8 @@ const Place &placeOfDay(const Place (&places)[N], std::int64_t day, int detour)
     return places[(cardOfDay(day, N, 0x91ace) + static_cast<std::size_t>(detour)) % N];
 }
 
-/// Goes from 0 outwards in a random direction to the edge of the set of z^power + c, and a little past
-/// it: there the Julia sets have just fallen to dust.
+/// Goes from 0 outwards in a random direction to the edge of the set of z^power + c, and a little
+/// past it: there the Julia sets have just fallen to dust.
 Place beyondTheEdge(int power, Random &random)
 {
     const double angle = random.between(0, 2 * kPi);
@@ -86,7 +88,8 @@ Place beyondTheEdge(int power, Random &random)
     return {radius * x, radius * y, 0, 2.2, 200};
 }
 
-/// A view around the day's place, or around the one @p detour places further. Eight in sixteen days show quadratic Julia sets, five the Mandelbrot set, three higher powers.
+/// A view around the day's place, or around the one @p detour places further. Eight in sixteen days
+/// show quadratic Julia sets, five the Mandelbrot set, three higher powers.
 FractalScene candidate(std::int64_t day, int detour, Random &random)
 {
     FractalScene scene;
@@ -141,11 +144,12 @@ Orbits probe(const FractalScene &scene)
 }
 
 /// What a probe says of a view, each as a share of the frame.
-struct Findings {
+struct Findings
+{
     double inside = 0;
-    double lace = 0;   ///< Points close to the set: the detail.
-    double calm = 0;   ///< Points far from it: room for the eye (and for desktop icons).
-    double steps = 0;  ///< Mean number of steps a point, in single precision.
+    double lace = 0; ///< Points close to the set: the detail.
+    double calm = 0; ///< Points far from it: room for the eye (and for desktop icons).
+    double steps = 0; ///< Mean number of steps a point, in single precision.
 };
 
 Findings examine(const FractalScene &scene, const Orbits &orbits)
@@ -161,7 +165,8 @@ Findings examine(const FractalScene &scene, const Orbits &orbits)
         f.steps += inside ? scene.rule.limit : static_cast<double>(orbits.steps[i]);
     }
     const auto count = static_cast<double>(orbits.steps.size());
-    const double effort = scene.rule.deep ? 2 : 1; // double precision fills the registers twice as fast
+    const double effort =
+        scene.rule.deep ? 2 : 1; // double precision fills the registers twice as fast
     return {f.inside / count, f.lace / count, f.calm / count, effort * f.steps / count};
 }
 
@@ -213,9 +218,11 @@ ToneCurve::ToneCurve(const std::vector<float> &steps)
         const float tone = m_low + static_cast<float>(bin) / m_scale;
         const auto below = std::lower_bound(tones.begin(), tones.end(), tone) - tones.begin();
         const auto linear = static_cast<float>(bin) / static_cast<float>(kBins);
-        m_rank[bin] = mix(linear, static_cast<float>(static_cast<double>(below) / (last + 1)), 0.6F);
+        m_rank[bin] =
+            mix(linear, static_cast<float>(static_cast<double>(below) / (last + 1)), 0.6F);
     }
-    for (int pass = 0; pass < 6; ++pass) { // rounds the corners that the few points of a probe leave
+    for (int pass = 0; pass < 6;
+         ++pass) { // rounds the corners that the few points of a probe leave
         auto smooth = m_rank;
         for (std::size_t bin = 1; bin + 1 < m_rank.size(); ++bin)
             smooth[bin] = 0.25F * m_rank[bin - 1] + 0.5F * m_rank[bin] + 0.25F * m_rank[bin + 1];
@@ -225,7 +232,8 @@ ToneCurve::ToneCurve(const std::vector<float> &steps)
 
 float ToneCurve::at(float steps) const
 {
-    const float p = std::clamp((log2Of(steps + 1.0F) - m_low) * m_scale, 0.0F, static_cast<float>(kBins));
+    const float p =
+        std::clamp((log2Of(steps + 1.0F) - m_low) * m_scale, 0.0F, static_cast<float>(kBins));
     const int i = std::min(static_cast<int>(p), kBins - 1);
     const auto n = static_cast<std::size_t>(i);
     return mix(m_rank[n], m_rank[n + 1], p - static_cast<float>(i));

@@ -49,7 +49,8 @@ void paintLake(const LandscapeScene &scene, const Pixels &pixels, int first, int
         std::uint32_t *out = pixels.row(y);
         const float v = (static_cast<float>(y) + 0.5F) * pixel;
         for (int x = 0; x < pixels.width; ++x) {
-            const float u = (static_cast<float>(x) + 0.5F - 0.5F * static_cast<float>(pixels.width)) * pixel;
+            const float u =
+                (static_cast<float>(x) + 0.5F - 0.5F * static_cast<float>(pixels.width)) * pixel;
             out[x] = toPixel(waterAt(scene, pixels, x, u, std::max(v, scene.lake)), x, y);
         }
     }

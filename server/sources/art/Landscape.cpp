@@ -17,9 +17,11 @@ QString placeOf(const LandscapeScene &scene)
     case art::View::Ridges:
         return scene.misty ? QStringLiteral("Misty ridges") : QStringLiteral("Mountain ridges");
     case art::View::Lake:
-        return scene.misty ? QStringLiteral("Mountain lake in the mist") : QStringLiteral("Mountain lake");
+        return scene.misty ? QStringLiteral("Mountain lake in the mist")
+                           : QStringLiteral("Mountain lake");
     case art::View::Valley:
-        return scene.misty ? QStringLiteral("Misty forest valley") : QStringLiteral("Forest valley");
+        return scene.misty ? QStringLiteral("Misty forest valley")
+                           : QStringLiteral("Forest valley");
     case art::View::Hills:
         return scene.misty ? QStringLiteral("Misty hills") : QStringLiteral("Rolling hills");
     }
@@ -45,9 +47,9 @@ QString hourOf(const LandscapeScene &scene)
 
 QString partOfYear(QDate date)
 {
-    static const char *const kParts[] = {"midwinter",   "late winter", "early spring", "mid-spring",
-                                         "late spring", "early summer", "midsummer",   "late summer",
-                                         "early autumn", "mid-autumn", "late autumn",  "early winter"};
+    static const char *const kParts[] = {
+        "midwinter", "late winter", "early spring", "mid-spring", "late spring", "early summer",
+        "midsummer", "late summer", "early autumn", "mid-autumn", "late autumn", "early winter"};
     return QLatin1String(kParts[std::clamp(date.month(), 1, 12) - 1]);
 }
 
@@ -62,7 +64,8 @@ QString sunNow(const LandscapeScene &scene)
     if (scene.hour == Hour::Night) {
         const int percent = static_cast<int>(scene.moonNight.lit * 100 + 0.5);
         return scene.moonlit
-            ? QStringLiteral("The moon is %1 % lit and %2.").arg(percent)
+            ? QStringLiteral("The moon is %1 % lit and %2.")
+                  .arg(percent)
                   .arg(scene.moonNight.waxing ? QStringLiteral("waxing") : QStringLiteral("waning"))
             : QStringLiteral("The moon, %1 % lit, leaves the night to the stars.").arg(percent);
     }
@@ -74,9 +77,15 @@ QString sunNow(const LandscapeScene &scene)
 
 } // namespace
 
-QString Landscape::shortName() const { return QStringLiteral("landscape"); }
+QString Landscape::shortName() const
+{
+    return QStringLiteral("landscape");
+}
 
-QString Landscape::longName() const { return QStringLiteral("Landscape of the Day"); }
+QString Landscape::longName() const
+{
+    return QStringLiteral("Landscape of the Day");
+}
 
 QString Landscape::credit() const
 {
@@ -90,9 +99,11 @@ DayText Landscape::text(QDate date) const
     const int minutes = static_cast<int>(sun.dayLength * 60 + 0.5);
     DayText text;
     text.caption = QStringLiteral("%1 %2, %3").arg(placeOf(scene), hourOf(scene), partOfYear(date));
-    text.info = QStringLiteral("At 48\u00b0 north this day lasts %1 h %2 min, from sunrise at %3 to sunset at %4 local "
+    text.info = QStringLiteral("At 48\u00b0 north this day lasts %1 h %2 min, from sunrise at %3 "
+                               "to sunset at %4 local "
                                "mean time, and at noon the sun stands %5\u00b0 high. %6")
-                    .arg(minutes / 60).arg(minutes % 60)
+                    .arg(minutes / 60)
+                    .arg(minutes % 60)
                     .arg(clockTime(sun.sunrise), clockTime(sun.sunset))
                     .arg(sun.noonAltitude, 0, 'f', 1)
                     .arg(sunNow(scene));

@@ -14,8 +14,8 @@ namespace {
 constexpr int kBandRows = 16;
 
 /// Paints sky and ridges of one pixel, from the nearest layer that covers it wholly outwards.
-Rgb backgroundAt(const LandscapeScene &scene, const std::vector<Crest> &crests, std::size_t x, float u, float v,
-                 float pixel)
+Rgb backgroundAt(const LandscapeScene &scene, const std::vector<Crest> &crests, std::size_t x,
+                 float u, float v, float pixel)
 {
     const auto coverOf = [&](std::size_t layer) {
         return clamp01((v - crests[layer].top[x]) / (pixel * crests[layer].softness[x]) + 0.5F);
@@ -34,16 +34,18 @@ Rgb backgroundAt(const LandscapeScene &scene, const std::vector<Crest> &crests, 
     return colour;
 }
 
-void paintBackground(const LandscapeScene &scene, const std::vector<Crest> &crests, const Pixels &pixels,
-                     int first, int end)
+void paintBackground(const LandscapeScene &scene, const std::vector<Crest> &crests,
+                     const Pixels &pixels, int first, int end)
 {
     const float pixel = 1.0F / static_cast<float>(pixels.height);
     for (int y = first; y < end; ++y) {
         std::uint32_t *out = pixels.row(y);
         const float v = (static_cast<float>(y) + 0.5F) * pixel;
         for (int x = 0; x < pixels.width; ++x) {
-            const float u = (static_cast<float>(x) + 0.5F - 0.5F * static_cast<float>(pixels.width)) * pixel;
-            out[x] = toPixel(backgroundAt(scene, crests, static_cast<std::size_t>(x), u, v, pixel), x, y);
+            const float u =
+                (static_cast<float>(x) + 0.5F - 0.5F * static_cast<float>(pixels.width)) * pixel;
+            out[x] = toPixel(backgroundAt(scene, crests, static_cast<std::size_t>(x), u, v, pixel),
+                             x, y);
         }
     }
 }
@@ -61,7 +63,8 @@ QImage renderLandscape(const LandscapeScene &scene, QSize size, int threads)
         const auto i = static_cast<std::size_t>(layer);
         crests[i] = crestOf(scene.ridges[i], pixels.width, pixels.height);
     });
-    const int shore = std::clamp(static_cast<int>(scene.lake * static_cast<float>(pixels.height)), 1, pixels.height);
+    const int shore = std::clamp(static_cast<int>(scene.lake * static_cast<float>(pixels.height)),
+                                 1, pixels.height);
     forBands(0, shore, kBandRows, threads,
              [&](int first, int end) { paintBackground(scene, crests, pixels, first, end); });
     forBands(shore, pixels.height, kBandRows, threads,

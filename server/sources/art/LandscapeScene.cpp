@@ -8,7 +8,8 @@ namespace moravel::server::art {
 namespace {
 
 /// What grows, in white light.
-struct Growth {
+struct Growth
+{
     std::uint32_t woods;
     std::uint32_t meadow;
     std::uint32_t accent;
@@ -32,7 +33,7 @@ Growth growthOf(Season season, Random &random)
 
 Hour hourOfDay(std::int64_t day)
 {
-    constexpr Hour kDeck[] = {Hour::Dawn, Hour::Golden, Hour::Dusk, Hour::Day, Hour::Dawn,
+    constexpr Hour kDeck[] = {Hour::Dawn, Hour::Golden, Hour::Dusk,   Hour::Day, Hour::Dawn,
                               Hour::Dusk, Hour::Night,  Hour::Golden, Hour::Day, Hour::Dawn};
     return kDeck[cardOfDay(day, std::size(kDeck), 0x40125)];
 }
@@ -74,7 +75,9 @@ void setLight(LandscapeScene &scene, Random &random)
         scene.discRadius = scene.moonlit ? 0.034F : 0;
         scene.glow = scene.moonlit ? 0.12F + 0.22F * static_cast<float>(scene.moonNight.lit) : 0.0F;
     }
-    scene.stars = dim ? (scene.moonlit ? 0.7F : 1.0F) : scene.hour == Hour::Dusk && scene.sunAltitude < -3 ? 0.3F : 0;
+    scene.stars = dim                                        ? (scene.moonlit ? 0.7F : 1.0F)
+        : scene.hour == Hour::Dusk && scene.sunAltitude < -3 ? 0.3F
+                                                             : 0;
 }
 
 void setClouds(LandscapeScene &scene, Random &random)
@@ -114,8 +117,8 @@ Ridge mountainAt(const LandscapeScene &scene, float place, float base, float hei
     return ridge;
 }
 
-Ridge woodsAt(const LandscapeScene &scene, float place, float base, float height, const Growth &growth,
-              Random &random)
+Ridge woodsAt(const LandscapeScene &scene, float place, float base, float height,
+              const Growth &growth, Random &random)
 {
     Ridge ridge = ridgeAt(scene, place, random);
     ridge.base = base;
@@ -130,8 +133,8 @@ Ridge woodsAt(const LandscapeScene &scene, float place, float base, float height
     return ridge;
 }
 
-Ridge meadowAt(const LandscapeScene &scene, float place, float base, float height, const Growth &growth,
-               Random &random)
+Ridge meadowAt(const LandscapeScene &scene, float place, float base, float height,
+               const Growth &growth, Random &random)
 {
     Ridge ridge = ridgeAt(scene, place, random);
     ridge.base = base;
@@ -159,7 +162,8 @@ void plantTrees(LandscapeScene &scene, int count, float foot, Random &random)
         tree.golden = scene.season == Season::Autumn && random.chance(0.35);
         scene.trees.push_back(tree);
     }
-    std::sort(scene.trees.begin(), scene.trees.end(), [](const Tree &a, const Tree &b) { return a.v < b.v; });
+    std::sort(scene.trees.begin(), scene.trees.end(),
+              [](const Tree &a, const Tree &b) { return a.v < b.v; });
 }
 
 void composeRidges(LandscapeScene &scene, const Growth &growth, Random &random)
@@ -168,8 +172,9 @@ void composeRidges(LandscapeScene &scene, const Growth &growth, Random &random)
     for (int i = 0; i < count; ++i) {
         const float place = static_cast<float>(i) / static_cast<float>(count);
         const float base = mix(scene.horizon + 0.03F, 1.0F, place);
-        scene.ridges.push_back(i < 2 ? mountainAt(scene, place, base, random.betweenF(0.16F, 0.27F), random)
-                                     : woodsAt(scene, place, base, random.betweenF(0.12F, 0.2F), growth, random));
+        scene.ridges.push_back(
+            i < 2 ? mountainAt(scene, place, base, random.betweenF(0.16F, 0.27F), random)
+                  : woodsAt(scene, place, base, random.betweenF(0.12F, 0.2F), growth, random));
     }
     scene.ridges.push_back(woodsAt(scene, 1, 1.06F, 0.16F, growth, random));
 }
@@ -178,12 +183,15 @@ void composeLake(LandscapeScene &scene, const Growth &growth, Random &random)
 {
     scene.lake = random.betweenF(0.68F, 0.74F);
     scene.horizon = scene.lake - 0.03F;
-    scene.ridges.push_back(mountainAt(scene, 0.10F, scene.horizon, random.betweenF(0.20F, 0.28F), random));
-    scene.ridges.push_back(mountainAt(scene, 0.32F, scene.lake, random.betweenF(0.28F, 0.42F), random));
+    scene.ridges.push_back(
+        mountainAt(scene, 0.10F, scene.horizon, random.betweenF(0.20F, 0.28F), random));
+    scene.ridges.push_back(
+        mountainAt(scene, 0.32F, scene.lake, random.betweenF(0.28F, 0.42F), random));
     scene.ridges.back().valley = 0.25F;
     for (int i = 0; i < 3; ++i) {
         const float place = 0.55F + 0.17F * static_cast<float>(i);
-        Ridge ridge = woodsAt(scene, place, scene.lake + 0.012F, 0.10F - 0.027F * static_cast<float>(i), growth, random);
+        Ridge ridge = woodsAt(scene, place, scene.lake + 0.012F,
+                              0.10F - 0.027F * static_cast<float>(i), growth, random);
         ridge.valley = 0.7F;
         ridge.trees = 0.016F + 0.006F * static_cast<float>(i);
         scene.ridges.push_back(ridge);
@@ -194,8 +202,10 @@ void composeLake(LandscapeScene &scene, const Growth &growth, Random &random)
 void composeValley(LandscapeScene &scene, const Growth &growth, Random &random)
 {
     scene.lightU *= 0.5F;
-    scene.ridges.push_back(mountainAt(scene, 0.05F, scene.horizon + 0.04F, random.betweenF(0.2F, 0.3F), random));
-    scene.ridges.push_back(mountainAt(scene, 0.25F, scene.horizon + 0.10F, random.betweenF(0.18F, 0.28F), random));
+    scene.ridges.push_back(
+        mountainAt(scene, 0.05F, scene.horizon + 0.04F, random.betweenF(0.2F, 0.3F), random));
+    scene.ridges.push_back(
+        mountainAt(scene, 0.25F, scene.horizon + 0.10F, random.betweenF(0.18F, 0.28F), random));
     for (int i = 0; i < 5; ++i) {
         const float place = 0.35F + 0.15F * static_cast<float>(i);
         const float base = scene.horizon + 0.13F + 0.085F * static_cast<float>(i);
@@ -208,13 +218,15 @@ void composeValley(LandscapeScene &scene, const Growth &growth, Random &random)
 
 void composeHills(LandscapeScene &scene, const Growth &growth, Random &random)
 {
-    scene.ridges.push_back(mountainAt(scene, 0.02F, scene.horizon + 0.02F, random.betweenF(0.12F, 0.2F), random));
+    scene.ridges.push_back(
+        mountainAt(scene, 0.02F, scene.horizon + 0.02F, random.betweenF(0.12F, 0.2F), random));
     for (int i = 0; i < 6; ++i) {
         const float place = 0.22F + 0.145F * static_cast<float>(i);
         const float height = random.betweenF(0.18F, 0.30F);
         const float base = scene.horizon + 0.02F + 0.065F * static_cast<float>(i) + 0.45F * height;
-        scene.ridges.push_back(i % 2 == 0 ? woodsAt(scene, place, base, height * 0.8F, growth, random)
-                                          : meadowAt(scene, place, base, height, growth, random));
+        scene.ridges.push_back(i % 2 == 0
+                                   ? woodsAt(scene, place, base, height * 0.8F, growth, random)
+                                   : meadowAt(scene, place, base, height, growth, random));
     }
     plantTrees(scene, 9, 1.03F, random);
 }
@@ -240,7 +252,9 @@ LandscapeScene landscapeSceneFor(QDate date)
     scene.view = static_cast<View>(cardOfDay(day, 4, 0x71e3));
     scene.mood = moodOf(scene.hour, random.below(6));
     scene.sunAltitude = altitudeAt(scene.hour, scene.sunDay, random);
-    scene.misty = random.chance(scene.hour == Hour::Dawn ? 0.75 : scene.season == Season::Autumn ? 0.5 : 0.25);
+    scene.misty = random.chance(scene.hour == Hour::Dawn             ? 0.75
+                                    : scene.season == Season::Autumn ? 0.5
+                                                                     : 0.25);
     scene.horizon = random.betweenF(0.56F, 0.66F);
     const Growth growth = growthOf(scene.season, random);
     if (scene.view == View::Lake)

@@ -8,14 +8,21 @@
 
 /// Elementary functions made of correctly rounded operations only (+ − × ÷ √ and floor), so that a
 /// picture does not depend on the C library of the machine that draws it. Errors are below 1e-6
-/// (float) and 1e-9 (double). They contain no calls, which lets the compiler inline them into loops.
+/// (float) and 1e-9 (double). They contain no calls, which lets the compiler inline them into
+/// loops.
 namespace moravel::server::art {
 
 inline constexpr double kPi = 3.14159265358979323846;
 
-inline float clamp01(float v) { return std::min(std::max(v, 0.0F), 1.0F); }
+inline float clamp01(float v)
+{
+    return std::min(std::max(v, 0.0F), 1.0F);
+}
 
-inline float mix(float a, float b, float t) { return a + (b - a) * t; }
+inline float mix(float a, float b, float t)
+{
+    return a + (b - a) * t;
+}
 
 /// 0 below @p low, 1 above @p high, smooth between; low > high turns it round.
 inline float smoothstep(float low, float high, float v)
@@ -36,7 +43,8 @@ inline float log2Of(float v)
     const float s = (m - 1.0F) / (m + 1.0F);
     const float q = s * s; // ln m = 2 (s + s³/3 + s⁵/5 + …)
     return exponent
-        + 2.88539008F * s * (1.0F + q * (0.33333333F + q * (0.2F + q * (0.14285714F + q * 0.111F))));
+        + 2.88539008F * s
+        * (1.0F + q * (0.33333333F + q * (0.2F + q * (0.14285714F + q * 0.111F))));
 }
 
 inline float exp2Of(float v)
@@ -45,11 +53,23 @@ inline float exp2Of(float v)
     const float whole = std::floor(limited);
     const float f = (limited - whole) * 0.69314718F;
     const float p = 1.0F
-        + f * (1.0F + f * (0.5F + f * (0.16666667F + f * (0.04166667F + f * (0.00833333F + f * (0.00138889F + f * 0.000198413F))))));
-    return p * std::bit_cast<float>(static_cast<std::uint32_t>(static_cast<int>(whole) + 127) << 23);
+        + f
+            * (1.0F
+               + f
+                   * (0.5F
+                      + f
+                          * (0.16666667F
+                             + f
+                                 * (0.04166667F
+                                    + f * (0.00833333F + f * (0.00138889F + f * 0.000198413F))))));
+    return p
+        * std::bit_cast<float>(static_cast<std::uint32_t>(static_cast<int>(whole) + 127) << 23);
 }
 
-inline float expOf(float v) { return exp2Of(v * 1.44269504F); }
+inline float expOf(float v)
+{
+    return exp2Of(v * 1.44269504F);
+}
 
 /// @p base to the power @p exponent, for base ≥ 0.
 inline float powOf(float base, float exponent)
@@ -60,7 +80,8 @@ inline float powOf(float base, float exponent)
 inline double sinOf(double radians)
 {
     const double turns = std::floor(radians / kPi + 0.5);
-    const double x = radians - turns * kPi; // [−π/2, π/2]
+    // [−π/2, π/2]; angles too large to be reduced are limited instead of running away.
+    const double x = std::clamp(radians - turns * kPi, -kPi / 2, kPi / 2);
     const double q = x * x;
     double term = x;
     double sum = x;
@@ -71,7 +92,10 @@ inline double sinOf(double radians)
     return turns - 2.0 * std::floor(turns / 2.0) != 0.0 ? -sum : sum;
 }
 
-inline double cosOf(double radians) { return sinOf(radians + kPi / 2); }
+inline double cosOf(double radians)
+{
+    return sinOf(radians + kPi / 2);
+}
 
 /// The angle of tan @p v, by halving the angle until the series is short.
 inline double atanOf(double v)
@@ -80,7 +104,8 @@ inline double atanOf(double v)
     for (int i = 0; i < 4; ++i)
         x = x / (1.0 + std::sqrt(1.0 + x * x));
     const double q = x * x;
-    const double series = x * (1.0 - q * (1.0 / 3 - q * (1.0 / 5 - q * (1.0 / 7 - q * (1.0 / 9 - q / 11)))));
+    const double series =
+        x * (1.0 - q * (1.0 / 3 - q * (1.0 / 5 - q * (1.0 / 7 - q * (1.0 / 9 - q / 11)))));
     return 16.0 * series;
 }
 
@@ -90,6 +115,9 @@ inline double asinOf(double v)
     return 2.0 * atanOf(limited / (1.0 + std::sqrt(1.0 - limited * limited)));
 }
 
-inline double acosOf(double v) { return kPi / 2 - asinOf(v); }
+inline double acosOf(double v)
+{
+    return kPi / 2 - asinOf(v);
+}
 
 } // namespace moravel::server::art

@@ -10,7 +10,8 @@ namespace moravel::server::art {
 /// Scrambles lattice coordinates (the finaliser of MurmurHash3, Austin Appleby, public domain).
 inline std::uint32_t hashOf(int x, int y, std::uint32_t seed)
 {
-    std::uint32_t h = static_cast<std::uint32_t>(x) * 0x8da6b343U ^ static_cast<std::uint32_t>(y) * 0xd8163841U ^ seed;
+    std::uint32_t h = static_cast<std::uint32_t>(x) * 0x8da6b343U
+        ^ static_cast<std::uint32_t>(y) * 0xd8163841U ^ seed;
     h = (h ^ (h >> 16)) * 0x85ebca6bU;
     h = (h ^ (h >> 13)) * 0xc2b2ae35U;
     return h ^ (h >> 16);
@@ -43,7 +44,8 @@ inline float noiseAt(float x, float y, std::uint32_t seed)
     const float u = dx * dx * dx * (dx * (dx * 6.0F - 15.0F) + 10.0F);
     const float v = dy * dy * dy * (dy * (dy * 6.0F - 15.0F) + 10.0F);
     const float top = mix(slopeAt(ix, iy, seed, dx, dy), slopeAt(ix + 1, iy, seed, dx - 1, dy), u);
-    const float bottom = mix(slopeAt(ix, iy + 1, seed, dx, dy - 1), slopeAt(ix + 1, iy + 1, seed, dx - 1, dy - 1), u);
+    const float bottom = mix(slopeAt(ix, iy + 1, seed, dx, dy - 1),
+                             slopeAt(ix + 1, iy + 1, seed, dx - 1, dy - 1), u);
     return 1.6F * mix(top, bottom, v);
 }
 
@@ -62,15 +64,17 @@ inline float cloudy(float x, float y, int octaves, std::uint32_t seed)
     return sum;
 }
 
-/// Octaves of folded noise, finer ones stronger where the coarse ones are high (after F. K. Musgrave's
-/// ridged multifractal, "Texturing and Modeling", 1994): crests and gullies. About 0 … 1.
+/// Octaves of folded noise, finer ones stronger where the coarse ones are high (after F. K.
+/// Musgrave's ridged multifractal, "Texturing and Modeling", 1994): crests and gullies. About 0
+/// … 1.
 inline float ridged(float x, float y, int octaves, std::uint32_t seed)
 {
     float sum = 0;
     float strength = 0.52F;
     float weight = 1;
     for (int i = 0; i < octaves; ++i) {
-        const float fold = 1.0F - std::abs(noiseAt(x, y, seed + static_cast<std::uint32_t>(i) * 0x51edU));
+        const float fold =
+            1.0F - std::abs(noiseAt(x, y, seed + static_cast<std::uint32_t>(i) * 0x51edU));
         const float crest = fold * fold * weight;
         sum += strength * crest;
         weight = clamp01(crest * 1.6F);

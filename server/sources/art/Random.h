@@ -8,9 +8,9 @@
 
 namespace moravel::server::art {
 
-/// SplitMix64 (Steele, Lea, Flood, "Fast splittable pseudorandom number generators", OOPSLA 2014; the
-/// constants are Sebastiano Vigna's public-domain version). The same numbers on every machine, which
-/// the distributions of the standard library do not promise.
+/// SplitMix64 (Steele, Lea, Flood, "Fast splittable pseudorandom number generators", OOPSLA 2014;
+/// the constants are Sebastiano Vigna's public-domain version). The same numbers on every machine,
+/// which the distributions of the standard library do not promise.
 class Random
 {
 public:
@@ -40,8 +40,8 @@ private:
     std::uint64_t m_state;
 };
 
-/// Deals 0 … @p count − 1 in shuffled rounds, one card a day, so that neighbouring days differ and no
-/// card stays away for long. @p salt separates the decks of different decisions.
+/// Deals 0 … @p count − 1 in shuffled rounds, one card a day, so that neighbouring days differ and
+/// no card stays away for long. @p salt separates the decks of different decisions.
 inline std::size_t cardOfDay(std::int64_t julianDay, std::size_t count, std::uint64_t salt)
 {
     const auto day = static_cast<std::uint64_t>(julianDay + (std::int64_t(1) << 40));

@@ -26,8 +26,10 @@ Rgb starsAt(const LandscapeScene &scene, float u, float v, float pixel)
     for (int i = 0; i < 2; ++i) {
         const std::uint32_t seed = scene.seed + 77U + static_cast<std::uint32_t>(i);
         const float magnitude = unitHash(cx, cy, seed);
-        const float su = (static_cast<float>(cx) + 0.1F + 0.8F * unitHash(cx, cy, seed + 10)) / kCells;
-        const float sv = (static_cast<float>(cy) + 0.1F + 0.8F * unitHash(cx, cy, seed + 20)) / kCells;
+        const float su =
+            (static_cast<float>(cx) + 0.1F + 0.8F * unitHash(cx, cy, seed + 10)) / kCells;
+        const float sv =
+            (static_cast<float>(cy) + 0.1F + 0.8F * unitHash(cx, cy, seed + 20)) / kCells;
         const float du = (u - su) / size;
         const float dv = (v - sv) / size;
         const float m2 = magnitude * magnitude;
@@ -58,7 +60,8 @@ float cloudsAt(const LandscapeScene &scene, float u, float v, int octaves)
     const float x = u * recede * 0.75F;
     const float y = recede * scene.cloudStretch;
     const float warp = noiseAt(x * 0.7F, y * 0.7F, scene.seed + 40);
-    const float n = 0.5F + 0.9F * cloudy(x + 0.5F * warp, y + 0.3F * warp, octaves, scene.seed + 41);
+    const float n =
+        0.5F + 0.9F * cloudy(x + 0.5F * warp, y + 0.3F * warp, octaves, scene.seed + 41);
     const float threshold = 1.0F - scene.cloudCover;
     return smoothstep(threshold - 0.16F, threshold + 0.34F, n);
 }
@@ -70,8 +73,10 @@ Rgb withClouds(const LandscapeScene &scene, const Rgb &sky, float u, float v)
         return sky;
     const float r = distanceToLight(scene, u, v);
     const float reach = 0.02F / (r + 0.05F);
-    const float towards = cloudsAt(scene, u + (scene.lightU - u) * reach, v + (scene.lightV - v) * reach, 3);
-    const float lit = clamp01(0.55F + 1.5F * (density - towards) + 0.5F * expOf(-2.5F * r) - 0.45F * density);
+    const float towards =
+        cloudsAt(scene, u + (scene.lightU - u) * reach, v + (scene.lightV - v) * reach, 3);
+    const float lit =
+        clamp01(0.55F + 1.5F * (density - towards) + 0.5F * expOf(-2.5F * r) - 0.45F * density);
     const Rgb cloud = mix(scene.mood.cloudShade, scene.mood.cloudLit, lit);
     const float horizonFade = smoothstep(scene.horizon + 0.01F, scene.horizon - 0.22F, v);
     return mix(sky, cloud, density * (0.25F + 0.6F * horizonFade));
@@ -110,7 +115,8 @@ Rgb glowAt(const LandscapeScene &scene, float u, float v)
     const float dv = v - scene.lightV;
     const float r = std::sqrt(du * du + dv * dv);
     const float flat = std::sqrt(0.25F * du * du + 2.2F * dv * dv); // light along the horizon
-    const float strength = 0.34F * expOf(-14.0F * r) + 0.26F * expOf(-4.2F * r) + 0.14F * expOf(-3.0F * flat);
+    const float strength =
+        0.34F * expOf(-14.0F * r) + 0.26F * expOf(-4.2F * r) + 0.14F * expOf(-3.0F * flat);
     return scene.mood.sun * (strength * scene.glow);
 }
 
@@ -118,7 +124,9 @@ Rgb skyAt(const LandscapeScene &scene, float u, float v, float pixel)
 {
     Rgb sky = scene.mood.sky.at(v / scene.horizon);
     if (scene.stars > 0) {
-        sky = sky + Rgb{0.30F, 0.33F, 0.42F} * (0.22F * scene.stars * galaxyAt(scene, u, v) * (scene.moonlit ? 0.3F : 1.0F));
+        sky = sky
+            + Rgb{0.30F, 0.33F, 0.42F}
+                * (0.22F * scene.stars * galaxyAt(scene, u, v) * (scene.moonlit ? 0.3F : 1.0F));
         sky = sky + starsAt(scene, u, v, pixel);
     }
     const Rgb glow = glowAt(scene, u, v);

@@ -25,10 +25,12 @@ float treesAt(const Ridge &ridge, float u)
     const auto cell = static_cast<int>(std::floor(u / pitch));
     float tallest = 0;
     for (int i = cell - 1; i <= cell + 1; ++i) {
-        const float middle = (static_cast<float>(i) + 0.15F + 0.7F * unitHash(i, 1, ridge.seed)) * pitch;
+        const float middle =
+            (static_cast<float>(i) + 0.15F + 0.7F * unitHash(i, 1, ridge.seed)) * pitch;
         const float tall = ridge.trees * (0.45F + 0.55F * unitHash(i, 2, ridge.seed));
         const float away = std::abs(u - middle) / (tall * 0.24F);
-        const float notch = 0.10F * std::abs(noiseAt(u / ridge.trees * 9, static_cast<float>(i), ridge.seed));
+        const float notch =
+            0.10F * std::abs(noiseAt(u / ridge.trees * 9, static_cast<float>(i), ridge.seed));
         tallest = std::max(tallest, tall * (1.0F - std::sqrt(away) * 0.35F - away * 0.65F - notch));
     }
     // Thinner and thicker stands.
@@ -58,12 +60,14 @@ float snowAt(const Ridge &ridge, float u, float v, float facing)
     if (ridge.snow <= 0)
         return 0;
     const float ragged = 0.42F * cloudy(u * ridge.frequency * 8, v * 20, 5, ridge.seed + 21);
-    const float above = (ridge.base - v) / ridge.height - (1.0F - ridge.snow) + ragged - 0.16F * facing;
+    const float above =
+        (ridge.base - v) / ridge.height - (1.0F - ridge.snow) + ragged - 0.16F * facing;
     return smoothstep(-0.02F, 0.05F, above);
 }
 
 /// One conifer of the woods, seen at @p x from its trunk and @p fall below its tip.
-Rgb spireColour(const Ridge &ridge, int row, int column, float x, float fall, float tall, float u, float depth)
+Rgb spireColour(const Ridge &ridge, int row, int column, float x, float fall, float tall, float u,
+                float depth)
 {
     const float patch = 0.6F + 1.2F * clamp01(noiseAt(u * 4, depth * 9, ridge.seed + 12) + 0.4F);
     const bool special = unitHash(column, row, ridge.seed + 11) < ridge.accents * patch;
@@ -95,7 +99,8 @@ Rgb woodsAt(const LandscapeScene &scene, const Ridge &ridge, float u, float dept
             const float jag = fall / tall * 7.0F; // boughs step outwards on the way down
             const float half = fall * 0.25F * (1.06F - 0.30F * (std::floor(jag) + 1.0F - jag));
             const float cover = clamp01((half - std::abs(u - middle)) / pixel + 0.5F) * open;
-            colour = colour + spireColour(ridge, row, c, side * (u - middle), fall, tall, u, depth) * cover;
+            colour = colour
+                + spireColour(ridge, row, c, side * (u - middle), fall, tall, u, depth) * cover;
             open -= cover;
         }
     }
@@ -126,12 +131,14 @@ Crest crestOf(const Ridge &ridge, int width, int height)
     return crest;
 }
 
-Rgb landAt(const LandscapeScene &scene, const Ridge &ridge, float u, float v, float depth, float pixel)
+Rgb landAt(const LandscapeScene &scene, const Ridge &ridge, float u, float v, float depth,
+           float pixel)
 {
     const Mood &mood = scene.mood;
     Rgb land = ridge.land;
     if (ridge.trees > 0) {
-        const float fine = clamp01(ridge.trees / (5.0F * pixel) - 0.6F); // too small to be seen: no grain
+        const float fine =
+            clamp01(ridge.trees / (5.0F * pixel) - 0.6F); // too small to be seen: no grain
         const Rgb plain = mix(land, ridge.accent, 0.6F * ridge.accents) * 0.8F;
         land = fine > 0 ? mix(plain, woodsAt(scene, ridge, u, depth, pixel), fine) : plain;
     }

@@ -34,18 +34,21 @@ float insideBranches(const Tree &tree, float x, float f)
 
 } // namespace
 
-void paintTree(const LandscapeScene &scene, const Tree &tree, const Pixels &pixels, int first, int end)
+void paintTree(const LandscapeScene &scene, const Tree &tree, const Pixels &pixels, int first,
+               int end)
 {
     const auto height = static_cast<float>(pixels.height);
     const auto middle = 0.5F * static_cast<float>(pixels.width);
     const float reach = kSpread * 1.5F * tree.height;
     const int left = std::max(0, static_cast<int>((tree.u - reach) * height + middle));
-    const int right = std::min(pixels.width, static_cast<int>((tree.u + reach) * height + middle) + 1);
+    const int right =
+        std::min(pixels.width, static_cast<int>((tree.u + reach) * height + middle) + 1);
     const int top = std::max(first, static_cast<int>((tree.v - tree.height) * height));
     const int bottom = std::min(end, static_cast<int>(tree.v * height) + 1);
     const Rgb needles = fromHex(tree.golden ? 0xb9802eU : 0x2c4a3cU);
     const float shine = scene.hour == Hour::Day ? 0.55F : scene.hour == Hour::Night ? 0.1F : 0.3F;
-    const Rgb body = mix(scene.mood.near * 0.8F, needles * scene.mood.light, tree.golden ? shine + 0.12F : shine);
+    const Rgb body = mix(scene.mood.near * 0.8F, needles * scene.mood.light,
+                         tree.golden ? shine + 0.12F : shine);
     for (int y = top; y < bottom; ++y) {
         std::uint32_t *row = pixels.row(y);
         const float v = (static_cast<float>(y) + 0.5F) / height;
