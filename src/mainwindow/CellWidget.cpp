@@ -134,7 +134,10 @@ void CellWidget::follow()
     m_spinner->setVisible(m_view.isSpinning());
     QStringList parts{m_view.sourceField(), m_view.dateField(), m_view.captionField()};
     parts.removeAll(QString());
-    m_clicker->setAccessibleName(parts.join(QStringLiteral(", ")));
+    const QString name =
+        parts.isEmpty() ? m_sourceField->placeholder() : parts.join(QStringLiteral(", "));
+    if (name != m_clicker->accessibleName())
+        m_clicker->setAccessibleName(name);
     followToolTips();
     followButtons();
 }
