@@ -28,6 +28,8 @@ public:
     /// Sets a hint that stands in the label, in the colour of secondary text, while it is empty.
     void setPlaceholder(const QString &placeholder);
 
+    QString placeholder() const { return m_placeholder; }
+
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

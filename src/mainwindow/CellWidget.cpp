@@ -24,7 +24,7 @@ constexpr int CardTop = 14;
 constexpr int DesktopCardTop = 5; // in the side bar, level with the first row of the grid
 constexpr int CardBottom = 4;
 constexpr int CardSide = 2; // room for the focus ring
-constexpr int PictureHeight = 150;
+constexpr double PictureProportion = 0.75; // most pictures are 4 to 3
 constexpr int TextMargin = 11;
 
 int cardTop(const ThumbView &view)
@@ -49,7 +49,6 @@ CellWidget::CellWidget(ThumbView &view, QWidget *parent) : QWidget(parent), m_vi
 void CellWidget::buildPicture()
 {
     m_picture = new PictureView(this);
-    m_picture->setFixedHeight(PictureHeight);
     layout()->addWidget(m_picture);
     m_clicker = new Clicker(m_picture);
     m_clicker->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -135,7 +134,10 @@ void CellWidget::follow()
     m_spinner->setVisible(m_view.isSpinning());
     QStringList parts{m_view.sourceField(), m_view.dateField(), m_view.captionField()};
     parts.removeAll(QString());
-    m_clicker->setAccessibleName(parts.join(QStringLiteral(", ")));
+    const QString name =
+        parts.isEmpty() ? m_sourceField->placeholder() : parts.join(QStringLiteral(", "));
+    if (name != m_clicker->accessibleName())
+        m_clicker->setAccessibleName(name);
     followToolTips();
     followButtons();
 }
@@ -177,6 +179,13 @@ bool CellWidget::hasFocusInside() const
 {
     const QWidget *focus = QApplication::focusWidget();
     return focus && isAncestorOf(focus);
+}
+
+void CellWidget::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const int pictureWidth = width() - 2 * (CardSide + 1);
+    m_picture->setFixedHeight(qRound(pictureWidth * PictureProportion));
 }
 
 QList<QWidget *> CellWidget::focusChain() const

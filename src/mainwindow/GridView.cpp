@@ -80,6 +80,8 @@ void GridView::apply(const Slot &slot)
 void GridView::setPanel(QWidget *panel)
 {
     if (m_panel) {
+        if (m_panel->isAncestorOf(focusWidget() ? focusWidget() : this))
+            setFocus(); // else the first cell would get it
         m_panel->hide();
         m_panel->deleteLater();
     }

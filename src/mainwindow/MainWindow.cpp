@@ -53,6 +53,7 @@ MainWindow::MainWindow(ThumbCells &cells, DatePicker &datePicker, DateNavigation
     buildPanes(cells, datePicker);
     buildMenus(toolTips);
     setStartSize();
+    grid().setFocus(); // the arrows scroll at once, and no field starts with its text selected
 }
 
 void MainWindow::buildDateActions(DateNavigation &navigation)

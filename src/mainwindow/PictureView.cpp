@@ -62,10 +62,12 @@ void PictureView::refreshScaled()
                         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&scaled); // cut the round corners out once, rather than at each painting
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
     painter.translate((wanted.width() - room.width()) / 2, (wanted.height() - room.height()) / 2);
     painter.scale(scale, scale);
-    painter.fillPath(roundedArea(rect()), Qt::black);
+    QPainterPath corners;
+    corners.addRect(rect());
+    painter.fillPath(corners.subtracted(roundedArea(rect())), Qt::black);
     painter.end();
     m_scaled = QPixmap::fromImage(std::move(scaled));
     m_scaled.setDevicePixelRatio(scale);

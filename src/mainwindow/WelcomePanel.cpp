@@ -95,6 +95,7 @@ void WelcomePanel::buildCard(const QStringList &longNames)
     m_showButton->setObjectName(QStringLiteral("showPicturesButton"));
     m_showButton->setAutoDefault(true);
     m_showButton->setDefault(true);
+    m_showButton->setMinimumWidth(m_showButton->sizeHint().width() + 24);
     connect(m_showButton, &QPushButton::clicked, this,
             [this] { Q_EMIT sourcesChosen(tickedTags()); });
     column->addWidget(m_showButton, 0, Qt::AlignRight);
@@ -136,7 +137,7 @@ QWidget *WelcomePanel::makeList(const QStringList &longNames)
     m_checkCells->setVerticalSpacing(6);
     for (int i = 0; i < longNames.size(); ++i)
         createButtonWithTitle(longNames.at(i), i);
-    arrange(1);
+    arrange(m_checks.size() < SourcesForTwoColumns ? 1 : 2);
     auto *scroll = new CheckList;
     m_list = scroll;
     scroll->setWidget(list);

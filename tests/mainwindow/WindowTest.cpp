@@ -1,1 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "WindowFixture.h"
+
+#include "mainwindow/CaptionLabel.h"
+#include "mainwindow/FlippedClipView.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTest>
+
 #include <gtest/gtest.h>
+
+namespace moravel::testing {
+
+TEST(MainWindow, SideBarIsFixedAndCollapses)
+{
+    WindowFixture w;
+    w.window->show();
+    QWidget *bar = w.find("sideBar");
+    QWidget *divider = w.find("divider");
+    QAction *item = w.find<QAction>("sideBarMenuItem");
+    EXPECT_EQ(bar->width(), 210);
+    const int before = w.window->mainView().width();
+    w.window->resize(w.window->width() + 300, w.window->height());
+    QTest::qWait(0);
+    EXPECT_EQ(bar->width(), 210);
+    EXPECT_EQ(w.window->mainView().width(), before + 300);
+    QTest::mousePress(divider, Qt::LeftButton);
+    QTest::mouseMove(divider, {90, 10});
+    QTest::mouseRelease(divider, Qt::LeftButton);
+    EXPECT_EQ(bar->width(), 210);
+
+    QTest::mouseDClick(divider, Qt::LeftButton);
+    EXPECT_FALSE(bar->isVisible());
+    EXPECT_FALSE(item->isChecked());
+    QTest::mouseDClick(divider, Qt::LeftButton); // what remains at the edge
+    EXPECT_TRUE(bar->isVisible());
+    QTest::keyClick(w.window.get(), Qt::Key_F9);
+    EXPECT_FALSE(bar->isVisible());
+    item->trigger();
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_TRUE(item->isChecked());
+}
+
+TEST(MainWindow, GridIsGreyInDarkSurroundingsToo)
+{
+    WindowFixture w;
+    w.window->setPalette(QPalette(Qt::black));
+    w.window->show();
+    QWidget *scroller = w.find("scrollParent");
+    const QImage image = scroller->grab().toImage();
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(0xED, 0xED, 0xED));
+    const QPalette palette = scroller->palette();
+    EXPECT_LT(palette.color(QPalette::Text).lightness(), 60); // readable on white and on that grey
+    EXPECT_LT(palette.color(QPalette::WindowText).lightness(), 60);
+}
+
+TEST(MainWindow, StatusLineIsPlainText)
+{
+    WindowFixture w;
+    w.window->show();
+    w.window->showStatus(QStringLiteral("<b>x</b>"));
+    auto *status = w.find<CaptionLabel>("statusBar");
+    EXPECT_EQ(status->text(), QStringLiteral("<b>x</b>"));
+    w.window->showStatus(QString(5000, u'x'));
+    EXPECT_TRUE(status->isElided());
+    EXPECT_EQ(w.window->mainView().height() - w.window->grid().height(), 30);
+    w.window->setNextChange(QStringLiteral("Desktop changes soon"));
+    EXPECT_TRUE(w.find("nextChange")->isVisible());
+}
+
+TEST(MainWindow, MenusAppearWithTheirItems)
+{
+    WindowFixture w;
+    w.window->show();
+    EXPECT_FALSE(w.window->desktopMenu().menuAction()->isVisible());
+    EXPECT_FALSE(w.window->sourcesMenu().menuAction()->isVisible());
+    w.window->desktopMenu().addAction(QStringLiteral("x"));
+    w.build(1);
+    EXPECT_TRUE(w.window->desktopMenu().menuAction()->isVisible());
+    EXPECT_TRUE(w.window->sourcesMenu().menuAction()->isVisible());
+    w.window->helpMenu().actions().last()->trigger();
+    auto *about = w.find<QMessageBox>("aboutBox");
+    ASSERT_TRUE(about && about->isVisible());
+    QTest::keyClick(about, Qt::Key_Escape);
+
+    QApplication::setActiveWindow(w.window.get());
+    bool closing = false;
+    w.window->windowShouldClose = [&closing] { return closing; };
+    QTest::keyClick(w.window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_TRUE(w.window->isVisible());
+    closing = true;
+    QTest::keyClick(w.window.get(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(w.window->isVisible());
+}
+
+TEST(ToolTips, ReadingSetsTheInverseAndToggles)
+{
+    const QString key = QStringLiteral("HideTooltips");
+    for (const bool hide : {false, true}) {
+        SCOPED_TRACE(hide);
+        WindowFixture w;
+        w.window->show();
+        w.build(2);
+        w.sources->switchAll(true);
+        QString parentTip = QStringLiteral("?");
+        w.toolTips->parentButton = [&parentTip](const QString &tip) { parentTip = tip; };
+        if (hide)
+            w.defaults.values[key] = true;
+        w.toolTips->readTooltipOptions();
+        QAction *item = w.toolTips->tooltipsMenuItem();
+        const auto expectHidden = [&](bool hidden) {
+            EXPECT_EQ(item->isChecked(), !hidden);
+            EXPECT_EQ(w.defaults.values.value(key).toBool(), hidden);
+            EXPECT_EQ(parentTip.isEmpty(), hidden);
+            EXPECT_EQ(w.find("clicker", w.cell(1))->toolTip().isEmpty(), hidden);
+            EXPECT_EQ(w.find("newDesktopBtn", w.find("desktopThumb"))->toolTip().isEmpty(), hidden);
+            EXPECT_TRUE(w.find("clicker", w.find("desktopThumb"))->toolTip().isEmpty());
+        };
+        expectHidden(hide);
+        item->trigger(); // the menu command
+        expectHidden(!hide);
+    }
+}
+
+} // namespace moravel::testing
