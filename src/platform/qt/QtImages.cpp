@@ -71,12 +71,22 @@ QtImages::~QtImages()
 template <typename Result>
 void QtImages::run(std::function<Result()> work, std::function<void(Result)> done)
 {
-    m_pool.start([this, work = std::move(work), done = std::move(done)]() mutable {
-        // The callback goes along, so that what it captured also dies on the main thread.
+    // The callback stays here: what it has captured must neither be used nor freed on a worker.
+    const quint64 job = m_nextJob++;
+    m_waiting.emplace(job, [done = std::move(done)](const std::any &result) {
+        done(std::any_cast<const Result &>(result));
+    });
+    m_pool.start([this, job, work = std::move(work)] {
         QMetaObject::invokeMethod(
-            &m_mainThread, [result = work(), done = std::move(done)] { done(result); },
+            &m_mainThread, [this, job, result = std::any(work())] { finish(job, result); },
             Qt::QueuedConnection);
     });
+}
+
+void QtImages::finish(quint64 job, const std::any &result)
+{
+    const auto waiting = m_waiting.extract(job);
+    waiting.mapped()(result);
 }
 
 void QtImages::load(const QString &path, QSize box, std::function<void(QImage)> done)

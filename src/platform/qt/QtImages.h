@@ -7,7 +7,9 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <any>
 #include <atomic>
+#include <map>
 
 namespace moravel {
 
@@ -31,6 +33,10 @@ private:
     template <typename Result>
     void run(std::function<Result()> work, std::function<void(Result)> done);
 
+    void finish(quint64 job, const std::any &result);
+
+    quint64 m_nextJob = 0;
+    std::map<quint64, std::function<void(const std::any &)>> m_waiting; ///< What gets the results.
     QObject m_mainThread; ///< Receives the results; those still posted go with it.
     std::atomic<bool> m_stop = false;
     mutable QHash<QString, QImage> m_resources;
