@@ -125,6 +125,8 @@ void CellWidget::buildButtons()
 
 void CellWidget::follow()
 {
+    if (m_view.isHidden() && hasFocusInside())
+        parentWidget()->setFocus(); // else the next cell would get it
     setVisible(!m_view.isHidden());
     m_sourceField->setText(m_view.sourceField());
     m_dateField->setText(m_view.dateField());

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/DatePickerWidget.h"
 
+#include "mainwindow/Icons.h"
+
 #include <QCalendarWidget>
+#include <QPainter>
 #include <QRegularExpression>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 namespace moravel {
 
@@ -15,6 +20,35 @@ QString displayFormatFor(const QLocale &locale)
     QString format = locale.dateFormat(QLocale::ShortFormat);
     return format.replace(shortYear, QStringLiteral("yyyy"));
 }
+
+/// A calendar without week numbers and alarm colours that shows which days cannot be chosen.
+class QuietCalendar : public QCalendarWidget
+{
+public:
+    QuietCalendar()
+    {
+        setVerticalHeaderFormat(NoVerticalHeader);
+        setGridVisible(false);
+        for (const auto day : {Qt::Saturday, Qt::Sunday})
+            setWeekdayTextFormat(day, {});
+        const QColor colour = palette().color(QPalette::HighlightedText);
+        for (const auto &[button, icon] : {std::pair("qt_calendar_prevmonth", "previous-day"),
+                                           std::pair("qt_calendar_nextmonth", "next-day")}) {
+            const QPixmap arrow = iconPixmap(QLatin1String(icon), 16, colour, devicePixelRatioF());
+            if (auto *arrowButton = findChild<QToolButton *>(QLatin1String(button)))
+                arrowButton->setIcon(arrow);
+        }
+    }
+
+protected:
+    void paintCell(QPainter *painter, const QRect &rect, QDate date) const override
+    {
+        if (date > maximumDate())
+            painter->setOpacity(0.35);
+        QCalendarWidget::paintCell(painter, rect, date);
+        painter->setOpacity(1);
+    }
+};
 
 } // namespace
 
@@ -57,8 +91,9 @@ void DatePickerWidget::beforeCalendar()
     m_dayBefore = date();
     if (m_calendar)
         return;
-    m_calendar = calendarWidget();
-    m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    m_calendar = new QuietCalendar;
+    m_calendar->setLocale(locale());
+    setCalendarWidget(m_calendar);
     // Choosing the shown day again is a proposal too, but no change of date.
     const auto chosen = [this](QDate day) {
         if (day == m_dayBefore)

@@ -113,13 +113,13 @@ void MainWindow::buildViewMenu(ToolTips &toolTips)
 {
     m_viewMenu->addActions({m_dateActions.previousDay, m_dateActions.nextDay, m_dateActions.today});
     m_viewMenu->addSeparator();
-    m_viewMenu->addAction(addSideBarItem());
+    m_viewMenu->addAction(makeSideBarItem());
     m_viewMenu->addAction(toolTips.tooltipsMenuItem());
     m_viewMenu->addSeparator();
-    m_viewMenu->addAction(addFullScreenItem());
+    m_viewMenu->addAction(makeFullScreenItem());
 }
 
-QAction *MainWindow::addSideBarItem()
+QAction *MainWindow::makeSideBarItem()
 {
     QAction *item = makeCheckItem(tr("Show Side &Bar"), this, [this] {
         m_splitView->setCollapsed(!m_splitView->isCollapsed());
@@ -132,7 +132,7 @@ QAction *MainWindow::addSideBarItem()
     return item;
 }
 
-QAction *MainWindow::addFullScreenItem()
+QAction *MainWindow::makeFullScreenItem()
 {
     m_fullScreenItem = makeCheckItem(
         tr("&Full Screen"), this, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });

@@ -68,8 +68,8 @@ private:
     void buildMenus(ToolTips &toolTips);
     void buildViewMenu(ToolTips &toolTips);
     void setStartSize();
-    QAction *addSideBarItem();
-    QAction *addFullScreenItem();
+    QAction *makeSideBarItem();
+    QAction *makeFullScreenItem();
 
     DateActions m_dateActions;
     SideBar *m_sideBar = nullptr;

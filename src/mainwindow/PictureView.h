@@ -18,8 +18,6 @@ public:
 
     void setImage(const QImage &image);
 
-    QImage image() const { return m_image; }
-
     /// Whether an empty area shows a faint sign that a picture belongs there.
     void setPlaceholderShown(bool shown);
 

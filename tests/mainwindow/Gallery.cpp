@@ -3,7 +3,11 @@
 //   gallery FOLDER            (QT_QPA_PLATFORM, QT_SCALE_FACTOR, LANG as wanted)
 #include "WindowFixture.h"
 
+#include "mainwindow/CellMenu.h"
+#include "mainwindow/DatePickerWidget.h"
+
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
@@ -114,6 +118,23 @@ void save(QWidget &window, const QString &name)
     window.grab().save(name + QStringLiteral(".png"));
 }
 
+/// The calendar, the menu of the sources and the context menu of a cell.
+void savePopups(WindowFixture &w, const QString &prefix)
+{
+    auto *picker = w.find<DatePickerWidget>("datePicker");
+    QTest::mouseClick(picker, Qt::LeftButton, {}, {picker->width() - 8, 10});
+    save(*picker->calendarWidget(), prefix + QStringLiteral("calendar"));
+    picker->calendarWidget()->window()->close();
+    QMenu *cellMenu = makeCellMenu(w.cells.at(0), w.window.get()); // goes when it closes
+    for (QMenu *menu : {&w.window->sourcesMenu(), &w.window->viewMenu(), cellMenu}) {
+        menu->popup(w.window->pos());
+        save(*menu, prefix + QStringLiteral("menu-%1").arg(menu->title().remove(u'&')));
+        menu->close();
+    }
+    w.window->helpMenu().actions().last()->trigger();
+    save(*w.find<QWidget>("aboutBox"), prefix + QStringLiteral("about"));
+}
+
 void shoot(const QString &prefix)
 {
     {
@@ -130,6 +151,7 @@ void shoot(const QString &prefix)
         QTest::mouseMove(w.cell(5), {100, 100});
         w.find<QWidget>("clicker", w.cell(1))->setFocus();
         save(*w.window, prefix + QStringLiteral("full"));
+        savePopups(w, prefix);
         w.window->resize(500, 640);
         save(*w.window, prefix + QStringLiteral("narrow"));
         w.sources->switchAll(false);
