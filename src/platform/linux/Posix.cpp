@@ -12,6 +12,18 @@
 
 namespace moravel::posix {
 
+namespace {
+
+QByteArray stampOf(const struct stat &info)
+{
+    const qint64 parts[] = {qint64(info.st_dev), qint64(info.st_ino),  info.st_size,
+                            info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ctim.tv_sec,
+                            info.st_ctim.tv_nsec};
+    return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
+}
+
+} // namespace
+
 bool Fd::close()
 {
     // Linux releases the descriptor even when close() fails or is interrupted: never try again.
@@ -38,7 +50,7 @@ FileResult<QByteArray> nativePath(const QString &path)
     return QFile::encodeName(path);
 }
 
-FileResult<Fd> openRegular(const QString &path, qint64 *size)
+FileResult<OpenFile> openRegular(const QString &path)
 {
     const auto native = nativePath(path);
     if (!native)
@@ -51,8 +63,7 @@ FileResult<Fd> openRegular(const QString &path, qint64 *size)
         return failed(path, EISDIR);
     if (!S_ISREG(info.st_mode))
         return failed(path, EINVAL);
-    *size = info.st_size;
-    return fd;
+    return OpenFile{std::move(fd), info.st_size, stampOf(info)};
 }
 
 int renameNew(const QByteArray &from, const QByteArray &to)
