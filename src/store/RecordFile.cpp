@@ -92,7 +92,7 @@ RecordFile::Text RecordFile::loadOrNothing() const
     if (text)
         return std::move(*text);
     qCInfo(lcStore) << "cannot read" << text.error().path << text.error().description;
-    return Text();
+    return {};
 }
 
 std::optional<QString> RecordFile::readTextData() const

@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -16,10 +17,10 @@ namespace {
 
 QByteArray stampOf(const struct stat &info)
 {
-    const qint64 parts[] = {qint64(info.st_dev), qint64(info.st_ino),  info.st_size,
-                            info.st_mtim.tv_sec, info.st_mtim.tv_nsec, info.st_ctim.tv_sec,
-                            info.st_ctim.tv_nsec};
-    return QByteArray(reinterpret_cast<const char *>(parts), sizeof parts);
+    const std::array<qint64, 7> parts = {
+        qint64(info.st_dev),  qint64(info.st_ino), info.st_size,        info.st_mtim.tv_sec,
+        info.st_mtim.tv_nsec, info.st_ctim.tv_sec, info.st_ctim.tv_nsec};
+    return {reinterpret_cast<const char *>(parts.data()), sizeof parts};
 }
 
 } // namespace

@@ -32,17 +32,19 @@ constexpr qint64 largestCopy = 16 << 20; ///< Bytes; larger files are mapped.
 class CopiedBytes : public FileBytes
 {
 public:
-    CopiedBytes(std::unique_ptr<char[]> data, std::size_t size, QByteArray stamp)
-        : m_data(std::move(data)), m_size(size), m_stamp(std::move(stamp))
+    CopiedBytes(QByteArray data, QByteArray stamp)
+        : m_data(std::move(data)), m_stamp(std::move(stamp))
     { }
 
-    std::string_view bytes() const override { return {m_data.get(), m_size}; }
+    std::string_view bytes() const override
+    {
+        return {m_data.constData(), std::size_t(m_data.size())};
+    }
 
     QByteArray stamp() const override { return m_stamp; }
 
 private:
-    std::unique_ptr<char[]> m_data;
-    std::size_t m_size;
+    QByteArray m_data;
     QByteArray m_stamp;
 };
 
@@ -68,18 +70,19 @@ private:
 
 FileResult<std::unique_ptr<FileBytes>> copyBytes(const QString &path, const posix::OpenFile &file)
 {
-    const auto size = std::size_t(file.size);
-    auto data = std::make_unique_for_overwrite<char[]>(size);
-    std::size_t filled = 0;
-    while (filled < size) {
-        const ssize_t got = ::read(file.fd.get(), data.get() + filled, size - filled);
+    QByteArray data(file.size, Qt::Uninitialized);
+    qsizetype filled = 0;
+    while (filled < data.size()) {
+        const ssize_t got =
+            ::read(file.fd.get(), data.data() + filled, std::size_t(data.size() - filled));
         if (got < 0 && errno != EINTR)
             return failed(path, errno);
         if (got == 0) // cut short meanwhile
             break;
-        filled += got > 0 ? std::size_t(got) : 0;
+        filled += std::max<ssize_t>(got, 0);
     }
-    return std::make_unique<CopiedBytes>(std::move(data), filled, file.stamp);
+    data.truncate(filled);
+    return std::make_unique<CopiedBytes>(std::move(data), file.stamp);
 }
 
 FileResult<std::unique_ptr<FileBytes>> mapBytes(const QString &path, const posix::OpenFile &file)
