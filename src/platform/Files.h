@@ -36,6 +36,10 @@ class FileBytes
 public:
     virtual ~FileBytes() = default;
     virtual std::string_view bytes() const = 0;
+
+    /// Differs between any two states of any two files, as far as the system can tell (device, inode,
+    /// size, times of change); empty when it cannot. For remembering a verdict on the bytes.
+    virtual QByteArray stamp() const { return {}; }
 };
 
 /// A file that is being written under a hidden temporary name (ending in ".part") beside its target.

@@ -71,8 +71,8 @@ QString Folders::moravelDataFile()
         QCoreApplication::translate("moravel", "Error creating Moravel support folder."));
     if (support.isEmpty())
         return {};
-    const QString newPath = support + dataFileName();
-    const QString oldPath = below(moravelFolder(), dataFileName());
+    QString newPath = support + dataFileName();
+    QString oldPath = below(moravelFolder(), dataFileName());
     if (oldPath.isEmpty() || m_files.size(oldPath) < 0 || m_files.exists(newPath))
         return newPath;
     const auto moved = m_files.move(oldPath, newPath);

@@ -77,8 +77,12 @@ FileResult<RecordFile::Text> RecordFile::load(const QString &path) const
     auto file = m_files.open(path);
     if (!file)
         return tl::make_unexpected(file.error());
-    if (!isValidUtf8((*file)->bytes()))
-        return tl::make_unexpected(FileError{path, QString()});
+    const QByteArray stamp = (*file)->stamp();
+    if (stamp.isEmpty() || stamp != m_validStamp) {
+        if (!isValidUtf8((*file)->bytes()))
+            return tl::make_unexpected(FileError{path, QString()});
+        m_validStamp = stamp;
+    }
     return Text(std::move(*file));
 }
 
@@ -88,7 +92,7 @@ RecordFile::Text RecordFile::loadOrNothing() const
     if (text)
         return std::move(*text);
     qCInfo(lcStore) << "cannot read" << text.error().path << text.error().description;
-    return Text();
+    return {};
 }
 
 std::optional<QString> RecordFile::readTextData() const

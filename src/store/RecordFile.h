@@ -73,6 +73,7 @@ private:
     Alerts &m_alerts;
     const Dates &m_dates;
     LegacyLookUp m_legacy;
+    mutable QByteArray m_validStamp; ///< Of the state of the file that was last found to be UTF-8.
 };
 
 } // namespace moravel

@@ -38,7 +38,7 @@ QString RecordUpdates::replaceField(const QString &record, int field, const QStr
         qCInfo(lcStore) << "no field" << field << "to change in" << record.left(200);
         return {};
     }
-    const QString old = std::exchange(fields[field], value);
+    QString old = std::exchange(fields[field], value);
     m_records.saveStoredData(fields.join(u'\t'));
     return old;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/Utf8.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -17,8 +18,8 @@ constexpr std::ptrdiff_t blockBytes = 32;
 const Byte *skipAscii(const Byte *p, const Byte *end)
 {
     while (end - p >= blockBytes) {
-        std::uint64_t words[4];
-        std::memcpy(words, p, sizeof words);
+        std::array<std::uint64_t, 4> words{};
+        std::memcpy(words.data(), p, sizeof words);
         if (((words[0] | words[1] | words[2] | words[3]) & highBits) != 0)
             break;
         p += blockBytes;

@@ -184,6 +184,9 @@ TEST(RecordFileTest, aFileThatCannotBeReadIsNeverWritten)
         EXPECT_EQ(w.files.writes, 0);
     };
     StoreWorld w;
+    w.setData(wiki + '\n');
+    EXPECT_TRUE(w.records.readTextData())
+        << "an earlier verdict does not count for what the file has become";
     w.setData(wiki + "\n\xFF\n");
     expectNothing(w, u"Error storing Moravel data.|"_s);
     EXPECT_EQ(w.data(), wiki + "\n\xFF\n");

@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -11,6 +12,18 @@
 #include <unistd.h>
 
 namespace moravel::posix {
+
+namespace {
+
+QByteArray stampOf(const struct stat &info)
+{
+    const std::array<qint64, 7> parts = {
+        qint64(info.st_dev),  qint64(info.st_ino), info.st_size,        info.st_mtim.tv_sec,
+        info.st_mtim.tv_nsec, info.st_ctim.tv_sec, info.st_ctim.tv_nsec};
+    return {reinterpret_cast<const char *>(parts.data()), sizeof parts};
+}
+
+} // namespace
 
 bool Fd::close()
 {
@@ -38,7 +51,7 @@ FileResult<QByteArray> nativePath(const QString &path)
     return QFile::encodeName(path);
 }
 
-FileResult<Fd> openRegular(const QString &path, qint64 *size)
+FileResult<OpenFile> openRegular(const QString &path)
 {
     const auto native = nativePath(path);
     if (!native)
@@ -51,8 +64,7 @@ FileResult<Fd> openRegular(const QString &path, qint64 *size)
         return failed(path, EISDIR);
     if (!S_ISREG(info.st_mode))
         return failed(path, EINVAL);
-    *size = info.st_size;
-    return fd;
+    return OpenFile{std::move(fd), info.st_size, stampOf(info)};
 }
 
 int renameNew(const QByteArray &from, const QByteArray &to)

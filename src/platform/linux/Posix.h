@@ -53,8 +53,15 @@ tl::unexpected<FileError> failed(const QString &path, int number);
 /// into the working directory, and for one with a NUL, which would be cut short.
 FileResult<QByteArray> nativePath(const QString &path);
 
+struct OpenFile
+{
+    Fd fd;
+    qint64 size = 0;
+    QByteArray stamp; ///< As FileBytes::stamp().
+};
+
 /// Opens a regular file for reading; never waits for a FIFO or a device.
-FileResult<Fd> openRegular(const QString &path, qint64 *size);
+FileResult<OpenFile> openRegular(const QString &path);
 
 /// Renames a file; fails with EEXIST where @p to exists. Returns an error number or 0.
 int renameNew(const QByteArray &from, const QByteArray &to);

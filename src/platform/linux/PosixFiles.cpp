@@ -32,54 +32,67 @@ constexpr qint64 largestCopy = 16 << 20; ///< Bytes; larger files are mapped.
 class CopiedBytes : public FileBytes
 {
 public:
-    CopiedBytes(std::unique_ptr<char[]> data, std::size_t size)
-        : m_data(std::move(data)), m_size(size)
+    CopiedBytes(QByteArray data, QByteArray stamp)
+        : m_data(std::move(data)), m_stamp(std::move(stamp))
     { }
 
-    std::string_view bytes() const override { return {m_data.get(), m_size}; }
+    std::string_view bytes() const override
+    {
+        return {m_data.constData(), std::size_t(m_data.size())};
+    }
+
+    QByteArray stamp() const override { return m_stamp; }
 
 private:
-    std::unique_ptr<char[]> m_data;
-    std::size_t m_size;
+    QByteArray m_data;
+    QByteArray m_stamp;
 };
 
 class MappedBytes : public FileBytes
 {
 public:
-    MappedBytes(void *data, std::size_t size) : m_data(data), m_size(size) { }
+    MappedBytes(void *data, std::size_t size, QByteArray stamp)
+        : m_data(data), m_size(size), m_stamp(std::move(stamp))
+    { }
 
     ~MappedBytes() override { ::munmap(m_data, m_size); }
     Q_DISABLE_COPY_MOVE(MappedBytes)
 
     std::string_view bytes() const override { return {static_cast<const char *>(m_data), m_size}; }
 
+    QByteArray stamp() const override { return m_stamp; }
+
 private:
     void *m_data;
     std::size_t m_size;
+    QByteArray m_stamp;
 };
 
-FileResult<std::unique_ptr<FileBytes>> copyBytes(const QString &path, int fd, std::size_t size)
+FileResult<std::unique_ptr<FileBytes>> copyBytes(const QString &path, const posix::OpenFile &file)
 {
-    auto data = std::make_unique_for_overwrite<char[]>(size);
-    std::size_t filled = 0;
-    while (filled < size) {
-        const ssize_t got = ::read(fd, data.get() + filled, size - filled);
+    QByteArray data(file.size, Qt::Uninitialized);
+    qsizetype filled = 0;
+    while (filled < data.size()) {
+        const ssize_t got =
+            ::read(file.fd.get(), data.data() + filled, std::size_t(data.size() - filled));
         if (got < 0 && errno != EINTR)
             return failed(path, errno);
         if (got == 0) // cut short meanwhile
             break;
-        filled += got > 0 ? std::size_t(got) : 0;
+        filled += std::max<ssize_t>(got, 0);
     }
-    return std::make_unique<CopiedBytes>(std::move(data), filled);
+    data.truncate(filled);
+    return std::make_unique<CopiedBytes>(std::move(data), file.stamp);
 }
 
-FileResult<std::unique_ptr<FileBytes>> mapBytes(const QString &path, int fd, std::size_t size)
+FileResult<std::unique_ptr<FileBytes>> mapBytes(const QString &path, const posix::OpenFile &file)
 {
-    void *data = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
+    const auto size = std::size_t(file.size);
+    void *data = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, file.fd.get(), 0);
     if (data == MAP_FAILED)
         return failed(path, errno);
     ::madvise(data, size, MADV_SEQUENTIAL);
-    return std::make_unique<MappedBytes>(data, size);
+    return std::make_unique<MappedBytes>(data, size, file.stamp);
 }
 
 FileResult<struct stat> look(const QString &path)
@@ -238,13 +251,10 @@ FileResult<void> PosixFiles::remove(const QString &path)
 
 FileResult<std::unique_ptr<FileBytes>> PosixFiles::open(const QString &path) const
 {
-    qint64 size = 0;
-    const auto fd = posix::openRegular(path, &size);
-    if (!fd)
-        return tl::make_unexpected(fd.error());
-    if (size <= largestCopy)
-        return copyBytes(path, fd->get(), std::size_t(size));
-    return mapBytes(path, fd->get(), std::size_t(size));
+    const auto file = posix::openRegular(path);
+    if (!file)
+        return tl::make_unexpected(file.error());
+    return file->size <= largestCopy ? copyBytes(path, *file) : mapBytes(path, *file);
 }
 
 FileResult<void> PosixFiles::writeAtomically(const QString &path,

@@ -5,6 +5,7 @@
 #include <QRandomGenerator>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -21,7 +22,7 @@ using posix::failed;
 
 namespace {
 
-constexpr char suffix[] = ".part";
+constexpr std::string_view suffix = ".part";
 constexpr qsizetype randomLetters = 6;
 constexpr qsizetype longestName = 200; ///< Bytes of the target's name kept; names end at 255.
 constexpr int mostLinks = 40; ///< As many links as the kernel follows.
@@ -31,13 +32,13 @@ constexpr int mostLinks = 40; ///< As many links as the kernel follows.
 int followLinks(QByteArray &path)
 {
     for (int i = 0; i < mostLinks; ++i) {
-        char buffer[PATH_MAX];
-        const ssize_t length = ::readlink(path.constData(), buffer, sizeof buffer);
+        std::array<char, PATH_MAX> buffer{};
+        const ssize_t length = ::readlink(path.constData(), buffer.data(), buffer.size());
         if (length < 0)
             return errno == EINVAL || errno == ENOENT ? 0 : errno;
-        if (std::size_t(length) == sizeof buffer)
+        if (std::size_t(length) == buffer.size())
             return ENAMETOOLONG;
-        const QByteArray link(buffer, length);
+        const QByteArray link(buffer.data(), length);
         path = link.startsWith('/') ? link : posix::folderOf(path) + '/' + link;
     }
     return ELOOP;
@@ -56,7 +57,7 @@ QByteArray partNameFor(const QByteArray &nativeTarget)
     QByteArray random;
     for (qsizetype i = 0; i < randomLetters; ++i)
         random += char('a' + QRandomGenerator::system()->bounded(26));
-    return nativeTarget.first(slash + 1) + '.' + name + '.' + random + suffix;
+    return nativeTarget.first(slash + 1) + '.' + name + '.' + random + suffix.data();
 }
 
 /// Writes all of @p left. Returns an error number or 0.
@@ -202,8 +203,8 @@ QString PosixPart::partPath() const
 
 bool PosixPart::isPartName(const QByteArray &name)
 {
-    constexpr qsizetype tail = qsizetype(sizeof suffix) - 1 + randomLetters;
-    if (!name.startsWith('.') || !name.endsWith(suffix) || name.size() < tail + 3)
+    constexpr qsizetype tail = qsizetype(suffix.size()) + randomLetters;
+    if (!name.startsWith('.') || !name.endsWith(suffix.data()) || name.size() < tail + 3)
         return false;
     const QByteArray random = name.sliced(name.size() - tail, randomLetters);
     return name[name.size() - tail - 1] == '.'
