@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "platform/qt/QtHttp.h"
-
-#include "support/LoopbackServer.h"
-#include "support/Wait.h"
+#include "HttpFixture.h"
 
 #include <QTcpServer>
-
-#include <optional>
-#include <random>
 
 using moravel::FetchResult;
 using moravel::HttpCallHandle;
@@ -16,60 +10,15 @@ using moravel::HttpHandlers;
 using moravel::HttpRequest;
 using moravel::HttpResponse;
 using moravel::QtHttp;
+using moravel::testing::get;
 using moravel::testing::LoopbackServer;
+using moravel::testing::post;
 using Answer = LoopbackServer::Answer;
 
 namespace {
 
-constexpr double NeverIdle = 60;
-
-HttpRequest get(const QUrl &url)
-{
-    HttpRequest request;
-    request.url = url;
-    request.idleTimeout = NeverIdle;
-    return request;
-}
-
-HttpRequest post(const QUrl &url, const QByteArray &body)
-{
-    HttpRequest request = get(url);
-    request.method = "POST";
-    request.headers = {{"Content-Type", "application/x-www-form-urlencoded"},
-                       {"Content-Length", QByteArray::number(body.size())}};
-    request.body = body;
-    return request;
-}
-
-QByteArray deflated(const QByteArray &bytes)
-{
-    return qCompress(bytes, 9).mid(4); // without Qt's length; a zlib stream is what "deflate" names
-}
-
-QByteArray noise(int size)
-{
-    QByteArray bytes;
-    std::mt19937 random(1);
-    while (bytes.size() < size)
-        bytes += char(random());
-    return bytes;
-}
-
-class QtHttpTest : public testing::Test
-{
-protected:
-    FetchResult fetch(const HttpRequest &request)
-    {
-        std::optional<FetchResult> result;
-        http.fetch(request, [&](FetchResult answer) { result = std::move(answer); });
-        EXPECT_FALSE(result) << "called back from within fetch()";
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
-        return result.value_or(tl::unexpected(HttpError{-1, QStringLiteral("no answer")}));
-    }
-
-    LoopbackServer server;
-    QtHttp http;
-};
+class QtHttpTest : public moravel::testing::HttpFixture
+{ };
 
 TEST_F(QtHttpTest, DeliversAnAnswerInParts)
 {
@@ -144,121 +93,6 @@ TEST_F(QtHttpTest, RefusesWhatCannotBeSent)
     EXPECT_EQ(server.connectionCount(), 0);
 }
 
-struct HostileCase
-{
-    const char *name;
-    Answer answer;
-    int status = 0;
-    const char *words = "";
-};
-
-TEST_F(QtHttpTest, FailsOnHostileAnswers)
-{
-    const QByteArray text(1000, 'x');
-    const LoopbackServer::Headers isPacked{{"Content-Encoding", "deflate"}};
-    const QByteArray packed = deflated(noise(100'000));
-    const char *lost = "connection was lost";
-    const char *odd = "not be understood";
-    const char *large = "larger than";
-    const QList<HostileCase> cases{
-        {"garbage", {.raw = QByteArray("\0\1\2\3garbage\n\n\n", 14), .close = true}, 0, lost},
-        {"garbage, kept open", {.raw = QByteArray(100'000, '\xEE')}, 0, lost},
-        {"a mail server", {.raw = "220 mail ESMTP\r\n", .close = true}, 0, lost},
-        {"nothing", {.raw = "", .close = true}, 0, lost},
-        {"half a status line", {.body = text, .cutAfter = 7}, 0, lost},
-        {"half a head", {.body = text, .cutAfter = 30}, 0, lost},
-        {"cut in the body", {.body = text, .cutAfter = 500}, 0, lost},
-        {"cut after the head", {.headers = {{"Content-Length", "10"}}, .close = true}, 0, lost},
-        {"cut chunks", {.body = text, .chunked = true, .cutAfter = 500}, 0, lost},
-        {"no closing chunk", {.body = text, .chunked = true, .cutAfter = 47 + 5 + 1000}, 0, lost},
-        {"cut while packed", {.body = packed, .headers = isPacked, .cutAfter = 50'000}, 0, lost},
-        {"cut packed chunks",
-         {.body = packed, .headers = isPacked, .chunked = true, .cutAfter = 50'000},
-         0,
-         lost},
-        {"packed, ends early", {.body = packed.left(50'000), .headers = isPacked}, 0, lost},
-        {"packed, never ends",
-         {.raw = "HTTP/1.0 200 OK\r\nContent-Encoding: deflate\r\n\r\n" + packed.left(50'000),
-          .close = true},
-         0,
-         lost},
-        {"not packed at all", {.body = "\x78\xDA" + text, .headers = isPacked}, 0, odd},
-        {"packed unknown", {.body = text, .headers = {{"Content-Encoding", "snappy"}}}, 0, odd},
-        {"length is a word",
-         {.body = text, .headers = {{"Content-Length", "ten"}}, .close = true},
-         0,
-         odd},
-        {"length below zero",
-         {.body = text, .headers = {{"Content-Length", "-7"}}, .close = true},
-         0,
-         odd},
-        {"announces too much", {.headers = {{"Content-Length", "4194305"}}}, 0, large},
-        {"announces the moon", {.headers = {{"Content-Length", "999999999999999999"}}}, 0, large},
-        {"50 MB in a line",
-         {.raw = "HTTP/1.1 200 OK\r\n\r\n" + QByteArray(50'000'000, 'x')},
-         0,
-         large},
-        {"50 MB chunk", {.body = QByteArray(50'000'000, 'x'), .chunked = true}, 0, large},
-        {"bomb", {.body = deflated(QByteArray(200'000'000, 'x')), .headers = isPacked}, 0, large},
-        {"500", {.status = 500, .body = "secret"}, 500, "500 (internal error)"},
-        {"404", {.status = 404}, 404, "404 (not found)"},
-        {"401",
-         {.status = 401, .headers = {{"WWW-Authenticate", "Basic realm=\"x\""}}},
-         401,
-         "login"},
-        {"407",
-         {.status = 407, .headers = {{"Proxy-Authenticate", "Basic realm=\"x\""}}},
-         407,
-         "407"},
-        {"to a file", LoopbackServer::redirect("file:///etc/passwd"), 302, "forbidden address"},
-        {"to data", LoopbackServer::redirect("data:text/plain,hello"), 301, "forbidden address"},
-        {"to ftp", LoopbackServer::redirect("ftp://127.0.0.1/"), 302, "forbidden address"},
-        {"to a resource", LoopbackServer::redirect("qrc:/moravel/blank.png"), 302, "forbidden"},
-        {"in a circle", LoopbackServer::redirect("/in a circle"), 302, "unexpected answer"},
-        {"to nowhere", {.status = 302}, 302, "unexpected answer"},
-    };
-    for (const HostileCase &hostile : cases) {
-        SCOPED_TRACE(hostile.name);
-        const QUrl url = server.url(u'/' + QString::fromLatin1(hostile.name));
-        server.answer(url.path(QUrl::FullyEncoded).toLatin1(), hostile.answer);
-        const FetchResult result = fetch(get(url));
-        ASSERT_FALSE(result) << result->left(100).constData();
-        EXPECT_EQ(result.error().status == 301 ? 302 : result.error().status,
-                  hostile.status == 301 ? 302 : hostile.status);
-        EXPECT_TRUE(result.error().description.contains(QLatin1String(hostile.words)))
-            << qPrintable(result.error().description);
-    }
-}
-
-TEST_F(QtHttpTest, TakesUnusualButSoundAnswers)
-{
-    const QByteArray text = QByteArray("many words ").repeated(20'000);
-    const QList<std::pair<const char *, Answer>> cases{
-        {"chunked", {.body = text, .chunked = true}},
-        {"until the end", {.raw = "HTTP/1.0 200 OK\r\n\r\n" + text, .close = true}},
-        {"packed", {.body = deflated(text), .headers = {{"Content-Encoding", "deflate"}}}},
-        {"packed chunks",
-         {.body = deflated(text), .headers = {{"Content-Encoding", "deflate"}}, .chunked = true}},
-        {"more than it said",
-         {.body = text + "HTTP/1.1 200 OK\r\n\r\nforged",
-          .headers = {{"Content-Length", QByteArray::number(text.size())}}}},
-        {"after that", {.body = text}},
-        {"closing", {.body = text, .close = true}},
-        {"moved", LoopbackServer::redirect("chunked", 308)},
-        {"moved elsewhere",
-         LoopbackServer::redirect(server.url(QStringLiteral("/packed")).toEncoded())},
-    };
-    for (const auto &[name, answer] : cases) {
-        SCOPED_TRACE(name);
-        const QUrl url = server.url(u'/' + QString::fromLatin1(name));
-        server.answer(url.path(QUrl::FullyEncoded).toLatin1(), answer);
-        const FetchResult result = fetch(get(url));
-        ASSERT_TRUE(result) << qPrintable(result.error().description);
-        EXPECT_EQ(result->size(), text.size());
-        EXPECT_EQ(*result, text);
-    }
-}
-
 TEST_F(QtHttpTest, FollowsFiveRedirectsAndNoMore)
 {
     for (int i = 0; i < 6; ++i)
@@ -294,15 +128,14 @@ TEST_F(QtHttpTest, PostsOnceWhateverTheConnectionDoes)
         {"cut in the head", {.body = "x", .cutAfter = 30}},
         {"cut in the body", {.body = "xxxx", .headers = {{"Content-Length", "10"}}, .close = true}},
     };
+    server.answer("/", {.body = "warm"});
     for (const auto &[name, answer] : deaths) {
         for (const QByteArray &body :
              {QByteArray(), QByteArray("a=b"), QByteArray(3'000'000, 'b')}) {
             SCOPED_TRACE(name);
             SCOPED_TRACE(body.size());
-            const QUrl warm = server.url(QStringLiteral("/warm/%1").arg(QLatin1String(name)));
-            server.answer(warm.path(QUrl::FullyEncoded).toLatin1(), {.body = "warm"});
-            ASSERT_TRUE(fetch(get(warm)));
-            ASSERT_TRUE(fetch(post(warm, body)));
+            ASSERT_TRUE(fetch(get(server.url())));
+            ASSERT_TRUE(fetch(post(server.url(), body)));
             const QUrl url = server.url(u'/' + QString::fromLatin1(name));
             server.answer(url.path(QUrl::FullyEncoded).toLatin1(), answer);
             const qsizetype before = server.requests().size();
