@@ -82,24 +82,18 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
     m_preferences.readChangeFrequency();
     m_preferences.readSizeSetting();
     m_preferences.readDesktopOptions();
-    removeLeftOvers();
+    m_folders.removeLeftovers();
+    logFolders();
     m_service.sources().getSources([this] {
         sourcesAreKnown();
         m_toolTips->readTooltipOptions();
     });
 }
 
-void MoravelAppDelegate::removeLeftOvers()
+void MoravelAppDelegate::logFolders()
 {
-    const QString data = m_folders.moravelDataFile();
-    const QString pictures = m_folders.moravelFolder();
-    qCInfo(lcApp).noquote() << "data file:" << data;
-    qCInfo(lcApp).noquote() << "picture folder:" << pictures;
-    const QString support = data.left(data.lastIndexOf(u'/') + 1);
-    for (const QString &folder : {pictures, m_folders.thumbsFolder(), support}) {
-        if (!folder.isEmpty())
-            m_platform.files.removeParts(folder);
-    }
+    qCInfo(lcApp).noquote() << "data file:" << m_folders.moravelDataFile();
+    qCInfo(lcApp).noquote() << "picture folder:" << m_folders.moravelFolder();
 }
 
 void MoravelAppDelegate::sourcesAreKnown()

@@ -41,7 +41,7 @@ public:
 private:
     ThumbCommands commands();
     void buildWindow();
-    void removeLeftOvers();
+    void logFolders();
     void sourcesAreKnown();
     void askForSourcesAgain();
     void switchOnAsAsked();

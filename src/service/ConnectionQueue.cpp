@@ -54,12 +54,16 @@ void ConnectionQueue::addConnectionToQueue(const QString &url, ThumbView &cell,
                                            const QString &method)
 {
     m_queue.push_back({url, &cell, method, cell.dateString()});
-    scheduleCheck();
+    if (!m_check)
+        scheduleCheck();
 }
 
 void ConnectionQueue::scheduleCheck()
 {
-    m_loop.schedule(Spacing, [this] { checkConnectionQueue(); });
+    m_check = m_loop.after(Spacing, [this] {
+        m_check.reset();
+        checkConnectionQueue();
+    });
 }
 
 void ConnectionQueue::checkConnectionQueue()

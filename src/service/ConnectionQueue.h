@@ -77,6 +77,7 @@ private:
     QHash<QString, ProcessMethod> m_processMethods;
     std::deque<Connector> m_queue;
     HttpCallHandle m_call;
+    DelayedCallHandle m_check; ///< The one check to come; an answer starts its half second anew.
     QByteArray m_receivedData;
     QPointer<ThumbView> m_processThumb;
     int m_thumbFetches = 0;
