@@ -19,7 +19,8 @@ ThumbImages thumbImages(const Images &images)
 
 } // namespace
 
-MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl, Options options)
+MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl,
+                                       Options options)
     : m_platform(platform)
     , m_options(std::move(options))
     , m_preferences(m_platform.defaults)
@@ -30,8 +31,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &
                 [this](const QString &name) { return m_legacy.oldStoredDataForFile(name); })
     , m_updates(m_records, m_legacy, m_dates)
     , m_links(m_folders, m_platform.files)
-    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records, m_updates, m_links,
-                 m_ports},
+    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records,
+                 m_updates, m_links, m_ports},
                 baseUrl)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
