@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 namespace moravel {
@@ -70,7 +71,10 @@ void MoravelAppDelegate::buildWindow()
 {
     m_toolTips = std::make_unique<ToolTips>(m_cells, m_preferences);
     m_window = std::make_unique<MainWindow>(m_cells, m_datePicker, *m_dateNavigation, *m_toolTips);
-    m_window->windowShouldClose = [] { return true; };
+    m_window->windowShouldClose = [] {
+        QCoreApplication::quit(); // also when an alert is still open
+        return true;
+    };
     SourceGridPorts ports;
     ports.startPass = [this](double seconds) { m_service.thumbPass().restart(seconds); };
     ports.retry = [this] { askForSourcesAgain(); };
