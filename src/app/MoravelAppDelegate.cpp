@@ -20,34 +20,66 @@ ThumbImages thumbImages(const Images &images)
 
 } // namespace
 
-MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl,
-                                       Options options)
+MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
+                                       const std::optional<DesktopPlatform> &desktop,
+                                       const QString &baseUrl, Options options)
     : m_platform(platform)
     , m_options(std::move(options))
     , m_preferences(m_platform.defaults)
-    , m_cells(thumbImages(m_platform.images), commands())
+    , m_cells(thumbImages(m_platform.images), commands(desktop.has_value()))
     , m_folders(m_platform.files, m_platform.alerts)
     , m_legacy(m_folders, m_platform.files, m_dates, m_sourceNames)
     , m_records(m_folders, m_platform.files, m_platform.alerts, m_dates,
                 [this](const QString &name) { return m_legacy.oldStoredDataForFile(name); })
     , m_updates(m_records, m_legacy, m_dates)
     , m_links(m_folders, m_platform.files)
-    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records,
-                 m_updates, m_links, m_ports},
-                baseUrl)
+    , m_context{m_platform, m_dates,   m_datePicker, m_cells, m_sourceNames,
+                m_folders,  m_records, m_updates,    m_links, m_ports}
+    , m_service(m_context, baseUrl)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
+    if (desktop)
+        buildDesktop(*desktop);
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
 
-ThumbCommands MoravelAppDelegate::commands()
+void MoravelAppDelegate::buildDesktop(const DesktopPlatform &desktop)
 {
-    ThumbCommands commands;
-    // A command that comes while the program waits for an answer takes its turn after it.
-    commands.refreshDataForThumb = [this](ThumbView &cell) {
-        m_platform.loop.inOrder([this, &cell] { m_service.refreshDataForThumb(cell); });
+    m_desktop = std::make_unique<DesktopSide>(m_context, m_preferences, desktop, m_service);
+    DesktopManagement &management = m_desktop->management();
+    m_ports.currentDesktopPath = [&management] { return management.currentDesktopPath(); };
+    m_ports.rotateDesktop
+        = [&management](ThumbView &) { management.rotation().rotateDesktop(RotateSender::Button); };
+    m_ports.newPicture = [this](const ThumbView &cell, const QString &path) {
+        m_desktop->growl().newPicture(cell, path);
     };
+}
+
+ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
+{
+    // A command that comes while the program waits for an answer takes its turn after it.
+    const auto inTurn = [this](std::function<void(ThumbView &)> command) {
+        return [this, command = std::move(command)](ThumbView &cell) {
+            m_platform.loop.inOrder([command, &cell] { command(cell); });
+        };
+    };
+    ThumbCommands commands;
+    commands.refreshDataForThumb
+        = inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    if (!withDesktop)
+        return commands;
+    constexpr int DoubleClick = 2; // the cell has counted the clicks already
+    commands.setAsDesktop = inTurn([this](ThumbView &cell) {
+        m_desktop->management().setAsDesktop(cell, DoubleClick);
+    });
+    commands.showInFinder
+        = inTurn([this](ThumbView &cell) { m_desktop->management().showInFinder(cell); });
+    commands.newDesktop = inTurn([this](ThumbView &) {
+        m_desktop->management().rotation().rotateDesktop(RotateSender::Button);
+    });
+    commands.previousDesktop = inTurn(
+        [this](ThumbView &) { m_desktop->management().rotation().previousDesktop(); });
     return commands;
 }
 
@@ -78,6 +110,12 @@ void MoravelAppDelegate::buildWindow()
     SourceGridPorts ports;
     ports.startPass = [this](double seconds) { m_service.thumbPass().restart(seconds); };
     ports.retry = [this] { askForSourcesAgain(); };
+    if (m_desktop) {
+        m_desktop->attachWindow(*m_window);
+        ports.rotateDesktop = [this](double seconds) {
+            m_desktop->management().rotation().scheduleRotateDesktop(seconds);
+        };
+    }
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
 }
@@ -90,7 +128,11 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
     m_folders.removeLeftovers();
     logFolders();
     m_service.sources().getSources([this] {
+        if (m_desktop && m_preferences.rotateFrequency() > 0)
+            m_desktop->management().markFirstRotationDue();
         sourcesAreKnown();
+        if (m_desktop)
+            m_desktop->management().start();
         m_toolTips->readTooltipOptions();
     });
 }

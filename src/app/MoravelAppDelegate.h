@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/DesktopSide.h"
 #include "app/Options.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
@@ -24,8 +25,10 @@ class MoravelAppDelegate : public QObject
     Q_OBJECT
 
 public:
-    /// @p baseUrl is the service's address. @p platform must outlive this object.
-    MoravelAppDelegate(const Platform &platform, const QString &baseUrl, Options options);
+    /// @p baseUrl is the service's address. What the platforms name must outlive this object. Without a
+    /// @p desktop no command concerning the desktop picture is offered.
+    MoravelAppDelegate(const Platform &platform, const std::optional<DesktopPlatform> &desktop,
+                       const QString &baseUrl, Options options);
     ~MoravelAppDelegate() override;
 
     /// Prepares the window; it can be shown then.
@@ -42,7 +45,8 @@ public:
     const ThumbCells &cells() const { return m_cells; }
 
 private:
-    ThumbCommands commands();
+    ThumbCommands commands(bool withDesktop);
+    void buildDesktop(const DesktopPlatform &desktop);
     void buildWindow();
     void logFolders();
     void sourcesAreKnown();
@@ -62,7 +66,9 @@ private:
     RecordUpdates m_updates;
     PictureLinks m_links;
     ServicePorts m_ports;
+    ServiceContext m_context;
     PictureService m_service;
+    std::unique_ptr<DesktopSide> m_desktop;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

@@ -14,6 +14,7 @@ void ThumbCells::createSpecialCells(const QDateTime &now)
     m_desktopThumb = std::make_unique<ThumbView>(ThumbView::DesktopTag, m_images, m_commands, now);
     ThumbButtons buttons = m_desktopThumb->buttons();
     buttons.newDesktopBtn = true;
+    buttons.prevDesktopBtn = false; // until there is a desktop to go back to
     buttons.infoButton = false;
     buttons.refreshButton = false;
     m_desktopThumb->setButtons(buttons);

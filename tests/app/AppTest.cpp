@@ -43,7 +43,7 @@ public:
     explicit App(const TempHome &home, Options options = {})
         : files(home)
         , defaults(home.path(QStringLiteral("prefs.ini")))
-        , delegate({loop, http, defaults, files, alerts, images, random},
+        , delegate({loop, http, defaults, files, alerts, images, random}, std::nullopt,
                    QStringLiteral("http://service/potd"), std::move(options))
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };

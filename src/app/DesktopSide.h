@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "desktop/DesktopManagement.h"
+#include "mainwindow/DesktopMenu.h"
+#include "mainwindow/MainWindow.h"
+#include "notify/GrowlAlert.h"
+#include "platform/Notifications.h"
+#include "platform/Tray.h"
+#include "platform/Workspace.h"
+#include "service/PictureService.h"
+
+#include <memory>
+
+namespace moravel {
+
+/// The touches of the operating system that only the desktop side needs.
+struct DesktopPlatform
+{
+    DesktopPictures *pictures = nullptr; ///< Null where no desktop picture can be set.
+    Tray &tray;
+    Workspace &workspace;
+    Notifications &notifications;
+};
+
+/// Ties desktop management to the window, the tray, the notifications and the service client.
+class DesktopSide : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All of @p context, @p platform and @p service must outlive this object; platform.pictures is not
+    /// null.
+    DesktopSide(const ServiceContext &context, Preferences &preferences,
+                const DesktopPlatform &platform, PictureService &service);
+
+    /// Fills the window's Desktop menu and shows the desktop's state in its side bar.
+    void attachWindow(MainWindow &window);
+
+    DesktopManagement &management() { return m_management; }
+
+    GrowlAlert &growl() { return m_growl; }
+
+private:
+    void fillServicePorts(PictureService &service);
+    void fillPlatformPorts();
+    void tieTray();
+    void showIcon(const QImage &image);
+    void activate();
+
+    ServiceContext m_service;
+    DesktopPlatform m_platform;
+    DesktopPorts m_ports;
+    DesktopManagement m_management;
+    GrowlAlert m_growl;
+    Preferences &m_preferences;
+    MainWindow *m_window = nullptr;
+    std::unique_ptr<DesktopMenu> m_menu;
+};
+
+} // namespace moravel
