@@ -27,10 +27,11 @@ Table allowed()
         {QStringLiteral("base"), set("platform")},
         {QStringLiteral("store"), set("platform base text")},
         {QStringLiteral("thumb"), set("text")},
+        {QStringLiteral("notify"), set("platform thumb")},
         {QStringLiteral("service"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
         {QStringLiteral("app"),
-         set("platform platform/qt platform/linux base text store thumb service mainwindow")},
+         set("platform platform/qt platform/linux base text store thumb notify service mainwindow")},
         {QStringLiteral("server"), set("text server")},
     };
 }
@@ -91,7 +92,7 @@ TEST(Architecture, logicFoldersDrawAndConnectNothing)
     static const QRegularExpression outside(QStringLiteral(
         "#include <Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop|Painter)>"));
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR "/src/");
-    for (const char *folder : {"platform", "text", "base", "store", "thumb", "service"}) {
+    for (const char *folder : {"platform", "text", "base", "store", "thumb", "notify", "service"}) {
         QDirIterator it(root + QLatin1String(folder), {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (it.hasNext()) {
             QFile file(it.next());
