@@ -28,11 +28,13 @@ Table allowed()
         {QStringLiteral("base"), set("platform")},
         {QStringLiteral("store"), set("platform base text")},
         {QStringLiteral("thumb"), set("text")},
+        {QStringLiteral("notify"), set("platform thumb")},
         {QStringLiteral("service"), set("platform base text store thumb")},
         {QStringLiteral("desktop"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
         {QStringLiteral("app"),
-         set("platform platform/qt platform/linux base text store thumb service desktop mainwindow")},
+         set("platform platform/qt platform/linux base text store thumb notify service desktop "
+             "mainwindow")},
         {QStringLiteral("server"), set("text server")},
     };
 }
@@ -96,7 +98,7 @@ TEST(Architecture, logicFoldersDrawAndConnectNothing)
         "#include "
         "<Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop|Painter)>"));
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR "/src/");
-    for (const char *folder : {"platform", "text", "base", "store", "thumb", "service"}) {
+    for (const char *folder : {"platform", "text", "base", "store", "thumb", "notify", "service", "desktop"}) {
         QDirIterator it(root + QLatin1String(folder),
                         {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (it.hasNext()) {
