@@ -129,7 +129,7 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
     logFolders();
     m_service.sources().getSources([this] {
         if (m_desktop && m_preferences.rotateFrequency() > 0)
-            m_desktop->management().markFirstRotationDue();
+            m_desktop->management().rotation().markFirstRotationDue();
         sourcesAreKnown();
         if (m_desktop)
             m_desktop->management().start();

@@ -2,6 +2,11 @@
 #include "app/MoravelAppDelegate.h"
 #include "app/Version.h"
 #include "platform/linux/PosixFiles.h"
+#include "platform/linux/desktops/DesktopChoice.h"
+#include "platform/linux/session/DBusNotifications.h"
+#include "platform/linux/session/LinuxWorkspace.h"
+#include "platform/linux/session/QtTray.h"
+#include "platform/linux/session/SessionEvents.h"
 #include "platform/qt/QtAlerts.h"
 #include "platform/qt/QtDefaults.h"
 #include "platform/qt/QtHttp.h"
@@ -47,6 +52,37 @@ bool isQuestion(const char *argument)
     return false;
 }
 
+// What the desktop lends the program. The session bus may be missing; then only the pictures work.
+struct LinuxDesktop
+{
+    LinuxDesktop(MainLoop &loop, Files &files, Images &images)
+        : tray(QDBusConnection::sessionBus(), loop)
+        , workspace(QDBusConnection::sessionBus())
+        , notifications(QDBusConnection::sessionBus(), images)
+        , sessionEvents(QDBusConnection::systemBus())
+        , pictures(makeDesktopPictures(
+              {files, files.standardFolders().applicationSupport + QStringLiteral("/Moravel")}))
+    {
+        sessionEvents.onResume = [this] {
+            if (pictures && pictures->onScreensChanged)
+                pictures->onScreensChanged();
+        };
+    }
+
+    std::optional<DesktopPlatform> lend()
+    {
+        if (!pictures)
+            return std::nullopt;
+        return DesktopPlatform{pictures.get(), tray, workspace, notifications};
+    }
+
+    QtTray tray;
+    LinuxWorkspace workspace;
+    DBusNotifications notifications;
+    SessionEvents sessionEvents;
+    std::unique_ptr<DesktopPictures> pictures;
+};
+
 int runApplication(QApplication &app, const Options &options)
 {
     QtMainLoop loop;
@@ -56,8 +92,9 @@ int runApplication(QApplication &app, const Options &options)
     QtAlerts alerts;
     QtImages images;
     QtRandom random;
+    LinuxDesktop desktop(loop, files, images);
     MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
+                                desktop.lend(), QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();
