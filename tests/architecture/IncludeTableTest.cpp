@@ -29,9 +29,10 @@ Table allowed()
         {QStringLiteral("store"), set("platform base text")},
         {QStringLiteral("thumb"), set("text")},
         {QStringLiteral("service"), set("platform base text store thumb")},
+        {QStringLiteral("desktop"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
         {QStringLiteral("app"),
-         set("platform platform/qt platform/linux base text store thumb service mainwindow")},
+         set("platform platform/qt platform/linux base text store thumb service desktop mainwindow")},
         {QStringLiteral("server"), set("text server")},
     };
 }
