@@ -5,6 +5,8 @@
 
 #include <QSizeF>
 
+#include <memory>
+
 namespace moravel {
 
 /// The font size that a caption got, and the last size that was tried for it.
@@ -16,7 +18,8 @@ struct FittedFont
 };
 
 /// Finds the font size, in steps of one point from 16, at which a text takes about a quarter of the
-/// picture's width (20 units more or less). No step leads below 6.
+/// picture's width (20 units more or less). No step leads below 6; where no size fits, the one below the
+/// band is taken.
 /// @param measure gives the size of the text at a font size; what it gives must grow with it.
 FittedFont fitFont(int pictureWidth, const std::function<QSizeF(double size)> &measure);
 
@@ -41,6 +44,8 @@ private:
 
     const DesktopContext &m_context;
     DesktopSetter &m_setter;
+    std::shared_ptr<int> m_alive =
+        std::make_shared<int>(); ///< Late answers look whether we are there.
 };
 
 } // namespace moravel

@@ -4,6 +4,8 @@
 #include "desktop/DesktopContext.h"
 #include "desktop/DockTile.h"
 
+#include <memory>
+
 namespace moravel {
 
 /// Fills the desktop cell. A file that did not change since the last time is not read again.
@@ -35,6 +37,7 @@ private:
     const DesktopContext &m_context;
     DockTile &m_dockTile;
     Seen m_seen;
+    std::shared_ptr<int> m_load; ///< The load under way; an older one finds its own gone.
 };
 
 } // namespace moravel

@@ -17,9 +17,8 @@ public:
     explicit DesktopManagement(const DesktopContext &context);
     ~DesktopManagement();
 
-    /// Once, after the preferences are read and before the grid is built.
-    void markFirstRotationDue();
-    /// Once, after the grid is built: looks at the desktop and starts the clocks.
+    /// Once, after the grid is built: looks at the desktop and starts the clocks. Before it, once the
+    /// sources are known, comes rotation().markFirstRotationDue().
     void start();
 
     DesktopSetter &setter() { return m_setter; }
@@ -56,6 +55,8 @@ private:
     DesktopWatcher m_watcher;
     Rotation m_rotation;
     CaptionOverlay m_overlay;
+    std::shared_ptr<int> m_alive =
+        std::make_shared<int>(); ///< Late answers look whether we are there.
 };
 
 } // namespace moravel

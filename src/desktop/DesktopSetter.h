@@ -3,6 +3,9 @@
 
 #include "desktop/DesktopContext.h"
 
+#include <QSet>
+
+#include <memory>
 #include <optional>
 
 namespace moravel {
@@ -22,13 +25,14 @@ public:
     void setDesktopToFile(const QString &path);
 
     /// How the file would be laid onto the screens; @p done comes later.
-    void desktopOptionsForFile(const QString &path, std::function<void(DesktopScaling)> done);
+    void desktopOptionsForFile(const QString &path,
+                               const std::function<void(DesktopScaling)> &done);
 
     /// Plain path of what the main screen shows; ends in "/" for a folder; "" when it is not known.
     QString shownPath() const;
 
-    /// Gives the picture again to screens that came or whose desktop was restarted.
-    void reapply();
+    /// Gives the picture again, a second later, to screens that came or whose desktop was restarted.
+    void reapplySoon();
 
     bool isBusy() const { return m_job != nullptr; }
 
@@ -55,25 +59,31 @@ private:
     using JobPtr = std::shared_ptr<Job>;
 
     void begin(const QString &path);
-    void rememberPrevious(const DesktopScreen &screen);
-    void start(const QString &path, const QStringList &screens);
+    void rememberPrevious(const QString &url);
     QStringList targets(const DesktopScreen &main);
+    void start(const QString &path, const QStringList &screens);
     void setScreens(const JobPtr &job, DesktopScaling scaling);
-    void screenIsSet(const JobPtr &job, const tl::expected<void, DesktopError> &result);
-    void finish(const JobPtr &job);
+    void screenIsSet(Job &job, const tl::expected<void, DesktopError> &result);
+    void finish(const QString &path);
     void release();
+    void reapply();
     void logOnce(const QString &text);
 
     const DesktopContext &m_context;
     QString m_currentDesktopPath;
     QString m_previousDesktopPath;
     QString m_moravelScreen;
+    QString m_lastSet; ///< The last picture that the desktop took from us.
     bool m_deletingDesktop = false;
-    JobPtr m_job;
+    bool m_toldOnePicture = false;
+    JobPtr m_job; ///< The one that is waited for.
+    int m_jobs = 0; ///< How many were started; the number of the last one.
+    std::optional<QString> m_waiting;
     DelayedCallHandle m_deadline;
     DelayedCallHandle m_reapply;
-    std::optional<QString> m_waiting;
-    QString m_lastLogged;
+    QSet<QString> m_logged;
+    std::shared_ptr<int> m_alive =
+        std::make_shared<int>(); ///< Late answers look whether we are there.
 };
 
 } // namespace moravel

@@ -29,7 +29,7 @@ private:
     DockTile &m_dockTile;
     DelayedCallHandle m_currentDesktopTimer;
     QString m_putBackOver; ///< What was covered last, while it is not known to be gone.
-    QDateTime m_putBackAgain;
+    QDateTime m_putBackSince;
 };
 
 } // namespace moravel
