@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "DesktopWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace moravel::testing {
+
+namespace {
+
+class Rotating : public ::testing::Test
+{
+protected:
+    void rotate(RotateSender sender = RotateSender::Button)
+    {
+        rotation.rotateDesktop(sender);
+        world.deliver();
+    }
+
+    qint64 secondsLeft() const
+    {
+        return world.loop.now().secsTo(rotation.nextDesktopRotate().value_or(QDateTime()));
+    }
+
+    QString shownName() const { return world.shownOn().section(u'/', -1); }
+
+    DesktopWorld world;
+    Rotation &rotation = world.desktop->rotation();
+};
+
+TEST_F(Rotating, takesTheFirstUsableCell)
+{
+    const auto cell = [this](const char *name) -> ThumbView & {
+        const QString text = QString::fromLatin1(name);
+        return world.cell(text, text + QStringLiteral(".jpg"));
+    };
+    cell("hidden").setHidden(true);
+    cell("used").setUsedAsDesktop(true);
+    cell("nopic").setPicPath({});
+    cell("deleted").setThumbPath(ThumbView::deletedMark());
+    cell("missing").setPicPath(QStringLiteral("http://site/not_there.jpg"));
+    ThumbView &good = cell("good");
+    ThumbView &next = cell("next");
+    QFile(world.pictureFolder() + QStringLiteral("good.jpg")).resize(11 * 1024 * 1024);
+    rotate();
+    EXPECT_EQ(shownName(), u"good.jpg") << "of any size";
+    EXPECT_TRUE(good.usedAsDesktop());
+    EXPECT_TRUE(world.questions.isEmpty());
+    rotate();
+    EXPECT_EQ(shownName(), u"next.jpg");
+    EXPECT_TRUE(next.usedAsDesktop());
+    world.run(5);
+    EXPECT_EQ(world.nextThumbs, 0) << "a button leaves the pass alone";
+}
+
+TEST_F(Rotating, shufflesTheCells)
+{
+    for (const char *name : {"a", "b", "c"})
+        world.cell(QString::fromLatin1(name), QString::fromLatin1(name) + QStringLiteral(".jpg"));
+    world.random.numbers = {2, 0, 0};
+    rotate(RotateSender::TimerOrMenu);
+    EXPECT_EQ(shownName(), u"c.jpg");
+    world.loop.advance(0.9);
+    EXPECT_EQ(world.nextThumbs, 0);
+    world.loop.advance(0.2);
+    EXPECT_EQ(world.nextThumbs, 1);
+}
+
+TEST_F(Rotating, fallsBackToTheFolder)
+{
+    const struct
+    {
+        const char *what;
+        QStringList files;
+        std::uint32_t number;
+        const char *shown;
+    } cases[] = {
+        {"no file", {}, 3, ""},
+        {"one file and no thumbs folder", {QStringLiteral("a.jpg")}, 0, ""},
+        {"wraps before the last", {QStringLiteral("a.jpg"), QStringLiteral("b.jpg")}, 3, "a.jpg"},
+        {"no picture", {QStringLiteral("a.txt"), QStringLiteral("b.jpg")}, 0, ""},
+        {"too big", {QStringLiteral("BIG.jpg"), QStringLiteral("b.jpg")}, 0, ""},
+        {"only picture is last", {QStringLiteral("a.txt"), QStringLiteral("z.jpg")}, 1, ""},
+        {"thumbs counts", {QStringLiteral("z.jpg"), QStringLiteral("thumbs/t.jpg")}, 1, ""},
+        {"before thumbs", {QStringLiteral("a.jpg"), QStringLiteral("thumbs/t.jpg")}, 1, "a.jpg"},
+    };
+
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        DesktopWorld fresh;
+        for (const QString &name : c.files)
+            fresh.picture(name, name.startsWith(u'B') ? 10 * 1024 * 1024 + 1 : 4);
+        fresh.random.numbers = {c.number};
+        fresh.desktop->rotation().rotateDesktop(RotateSender::TimerOrMenu);
+        fresh.run(3);
+        EXPECT_EQ(fresh.shownOn().section(u'/', -1), QLatin1String(c.shown));
+        EXPECT_EQ(fresh.nextThumbs, 0);
+    }
+}
+
+TEST_F(Rotating, everyChangeStartsAFullInterval)
+{
+    world.cell(QStringLiteral("a"), QStringLiteral("a.jpg"));
+    world.cell(QStringLiteral("b"), QStringLiteral("b.jpg"));
+    world.preferences.setChangeFrequency(15);
+    EXPECT_EQ(secondsLeft(), 900);
+    EXPECT_EQ(world.nextChange, u"New desktop in 15 minutes");
+    EXPECT_TRUE(world.keepButton);
+    world.run(600);
+    EXPECT_EQ(world.nextChange, u"New desktop in 5 minutes");
+    rotate();
+    EXPECT_EQ(secondsLeft(), 900);
+    world.run(899);
+    EXPECT_EQ(world.nextThumbs, 0);
+    world.run(3);
+    EXPECT_EQ(world.nextThumbs, 1);
+    EXPECT_NEAR(static_cast<double>(secondsLeft()), 900, 3);
+
+    world.preferences.setChangeFrequency(0);
+    EXPECT_FALSE(rotation.nextDesktopRotate());
+    EXPECT_EQ(world.nextChange, u"No desktop change scheduled");
+    EXPECT_FALSE(world.keepButton);
+    const auto sets = world.pictures.sets.size();
+    world.run(3600);
+    EXPECT_EQ(world.pictures.sets.size(), sets);
+}
+
+TEST_F(Rotating, firstChangeComesHalfAMinuteAfterTheGrid)
+{
+    world.cell(QStringLiteral("a"), QStringLiteral("a.jpg"));
+    rotation.markFirstRotationDue();
+    EXPECT_FALSE(rotation.nextDesktopRotate()) << "no rotation wanted";
+    world.preferences.setRotateFrequency(30);
+    rotation.markFirstRotationDue();
+    rotation.scheduleRotateDesktop(30);
+    rotation.showRotateInfo();
+    EXPECT_EQ(world.nextChange, u"New desktop in about 1 minute");
+    world.run(29);
+    EXPECT_EQ(shownName(), QString());
+    world.run(2);
+    EXPECT_EQ(shownName(), u"a.jpg");
+    EXPECT_NEAR(static_cast<double>(secondsLeft()), 1800, 2);
+
+    rotation.scheduleRotateDesktop(30);
+    rotation.setupNextDesktopRotate();
+    const auto sets = world.pictures.sets.size();
+    world.run(60);
+    EXPECT_EQ(world.pictures.sets.size(), sets) << "a change of the schedule cancels it";
+}
+
+TEST_F(Rotating, holdLastsAnHour)
+{
+    for (const int minutes : {30, 0}) {
+        SCOPED_TRACE(minutes);
+        world.preferences.setChangeFrequency(minutes);
+        rotation.holdDesktopForOneHour();
+        EXPECT_EQ(secondsLeft(), 3600);
+        EXPECT_EQ(world.preferences.rotateFrequency(), minutes);
+        EXPECT_EQ(world.nextChange, u"New desktop in 60 minutes");
+        EXPECT_FALSE(world.keepButton);
+        world.run(3601);
+        if (minutes > 0)
+            EXPECT_NEAR(static_cast<double>(secondsLeft()), minutes * 60, 2);
+        else
+            EXPECT_FALSE(rotation.nextDesktopRotate());
+    }
+}
+
+TEST_F(Rotating, previousDesktopToggles)
+{
+    const QString a = world.picture(QStringLiteral("a b.jpg"));
+    const QString b = world.picture(QStringLiteral("b.jpg"));
+    rotation.previousDesktop();
+    world.deliver();
+    EXPECT_TRUE(world.pictures.sets.isEmpty()) << "there is none yet";
+    world.show(a);
+    world.desktop->setter().setDesktopToFile(b);
+    world.deliver();
+    for (const QString &path : {a, b, a}) {
+        world.desktop->run(DockCommand::PreviousDesktop);
+        world.deliver();
+        EXPECT_EQ(world.shownOn(), path);
+    }
+}
+
+} // namespace
+
+} // namespace moravel::testing
