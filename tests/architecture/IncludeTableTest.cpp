@@ -33,7 +33,8 @@ Table allowed()
         {QStringLiteral("desktop"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
         {QStringLiteral("app"),
-         set("platform platform/qt platform/linux base text store thumb service desktop mainwindow")},
+         set("platform platform/qt platform/linux base text store thumb notify service desktop "
+             "mainwindow")},
         {QStringLiteral("server"), set("text server")},
     };
 }
