@@ -17,7 +17,7 @@
 // The linker drops resources of a static library that no one names.
 static void initResources()
 {
-    Q_INIT_RESOURCE(session);
+    Q_INIT_RESOURCE(platform_session);
 }
 
 namespace moravel {
@@ -100,7 +100,7 @@ void LinuxWorkspace::scriptEnded(const QString &error)
     if (m_process)
         std::exchange(m_process, nullptr)->deleteLater();
     if (!error.isEmpty())
-        qCInfo(lcSession).noquote() << "desktop settings:" << error;
+        qCInfo(lcSession) << "desktop settings:" << error;
     const auto answered = std::exchange(m_done, {});
     for (const auto &done : answered) {
         if (done)

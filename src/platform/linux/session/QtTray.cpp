@@ -4,6 +4,7 @@
 #include "platform/linux/session/Log.h"
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPixmap>
 
@@ -50,7 +51,7 @@ void QtTray::setImage(const QImage &image)
     m_image = plain.isNull() ? QIcon() : squareIcon(plain);
     if (!m_icon)
         return;
-    m_icon->setIcon(m_image);
+    showImage();
     // The picture has changed, and so have the lines. Some panels fetch them before the menu opens.
     if (!m_menu.isVisible())
         fillMenu();
@@ -61,14 +62,22 @@ void QtTray::show(TrayKind kind)
     qCDebug(lcSession) << "tray:" << (kind == TrayKind::StatusNotifier ? "panel" : "embedded");
     m_kind = kind;
     fillMenu();
-    m_icon = std::make_unique<QSystemTrayIcon>(m_image);
+    m_icon = std::make_unique<QSystemTrayIcon>();
     m_icon->setContextMenu(&m_menu);
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 if (reason == QSystemTrayIcon::Trigger && onActivated)
                     onActivated();
             });
-    m_icon->show();
+    showImage();
+}
+
+// Until there is an image, the application's own icon stands in; without one the tray stays empty.
+void QtTray::showImage()
+{
+    const QIcon icon = m_image.isNull() ? QGuiApplication::windowIcon() : m_image;
+    m_icon->setIcon(icon);
+    m_icon->setVisible(!icon.isNull());
 }
 
 void QtTray::fillMenu()

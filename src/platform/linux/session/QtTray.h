@@ -25,10 +25,11 @@ public:
     void setImage(const QImage &image) override;
 
     /// The menu as the tray shows it.
-    const QMenu &menu() const { return m_menu; }
+    QMenu &menu() { return m_menu; }
 
 private:
     void show(TrayKind kind);
+    void showImage();
     void fillMenu();
     void add(const TrayMenuItem &item);
 
