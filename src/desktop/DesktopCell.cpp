@@ -38,18 +38,21 @@ void DesktopCell::showDesktopThumb(const QString &path)
         load(path);
 }
 
-DesktopCell::Seen DesktopCell::look(const QString &path) const
+DesktopCell::Seen DesktopCell::look(const QString &path)
 {
     const auto &stamp = m_context.ports.fileStamp;
     if (!stamp)
         return {path, {}, {}};
-    return {path, stamp(path), stamp(m_context.folders.moravelDataFile())};
+    // Asking for the file makes its folder and alerts when it cannot: not at every tick.
+    if (path != m_seen.path)
+        m_dataFile = m_context.folders.moravelDataFile();
+    return {path, stamp(path), stamp(m_dataFile)};
 }
 
 void DesktopCell::showRecord(const QStringList &fields, const QString &path)
 {
     ThumbView &cell = m_context.cells.desktopThumb();
-    const QString shortName = fields[SourceField];
+    const QString &shortName = fields[SourceField];
     const auto &longSourceName = m_context.ports.longSourceName;
     cell.showSource(longSourceName ? longSourceName(shortName) : shortName, shortName);
     cell.showDate(m_context.dates.localDateFromSqlDate(fields[DateField]));
@@ -60,7 +63,7 @@ void DesktopCell::showRecord(const QStringList &fields, const QString &path)
     cell.setParentPath(fields[ParentField]);
 }
 
-void DesktopCell::showForeign(const QString &path)
+void DesktopCell::showForeign(const QString &path) const
 {
     ThumbView &cell = m_context.cells.desktopThumb();
     cell.showSource({}, {});

@@ -28,15 +28,16 @@ private:
         bool operator==(const Seen &) const = default;
     };
 
-    Seen look(const QString &path) const;
+    Seen look(const QString &path);
     void showRecord(const QStringList &fields, const QString &path);
-    void showForeign(const QString &path);
+    void showForeign(const QString &path) const;
     void load(const QString &path);
     void showImage(const QString &path, const QImage &image);
 
     const DesktopContext &m_context;
     DockTile &m_dockTile;
     Seen m_seen;
+    QString m_dataFile;
     std::shared_ptr<int> m_load; ///< The load under way; an older one finds its own gone.
 };
 

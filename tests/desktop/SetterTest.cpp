@@ -173,6 +173,7 @@ TEST_F(Setter, sizingUsesTheMainScreenForAll)
     expectWarning(QStringLiteral("no picture file: ") + world.pictureFolder()
                   + QStringLiteral("old%20"));
     world.desktop->setSizing(sizing::Center); // the escaped path names no file
+    EXPECT_EQ(setter.previousDesktopPath(), desktopUrlFromPath(old));
     EXPECT_EQ(world.preferences.desktopSizeSetting(), sizing::Center);
 }
 

@@ -148,6 +148,8 @@ TEST_F(Watching, waitsWhileTheDesktopTakesAPicture)
     start(moon);
     world.preferences.setDesktopOptions(Preferences::AllSpacesTag);
     world.desktop->setter().setDesktopToFile(sun);
+    world.images.deliver();
+    EXPECT_EQ(world.shownOn(), sun) << "and not yet answered";
     world.loop.advance(5);
     EXPECT_EQ(cell.picPath(), moon);
     world.deliver();
