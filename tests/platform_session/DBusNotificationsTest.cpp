@@ -116,8 +116,11 @@ TEST_F(DBusNotificationsTest, showsThePictureIfItCanBeRead)
     notifications.notify(with);
     with.picture = home.path(QStringLiteral("missing.jpg"));
     notifications.notify(with);
+    notifications.notify(notification()); // waits for its turn
+    MORAVEL_WAIT(daemon.asked == 1);
+    settle();
     EXPECT_TRUE(images.deliver());
-    MORAVEL_WAIT(daemon.shown.size() == 2);
+    MORAVEL_WAIT(daemon.shown.size() == 3);
 
     const NotificationPicture picture = daemon.shown.first().picture();
     EXPECT_EQ(picture.width, 4);

@@ -59,30 +59,37 @@ void DBusNotifications::notify(const Notification &notification)
         qCInfo(lcSession) << "not registered, not shown:" << notification.name;
         return;
     }
-    if (notification.picture.isEmpty() || m_loading >= MostWaiting) {
-        makeReady({notification, {}});
-        return;
-    }
-    ++m_loading;
-    m_images.load(notification.picture, {PictureSize, PictureSize},
-                  [self = QPointer(this), notification](const QImage &picture) {
-                      if (!self)
-                          return;
-                      --self->m_loading;
-                      self->makeReady({notification, picture});
-                  });
-}
-
-void DBusNotifications::makeReady(const Ready &ready)
-{
-    if (m_known) {
-        send(ready);
-        return;
-    }
     if (m_waiting.size() >= MostWaiting)
         m_waiting.removeFirst();
-    m_waiting.append(ready);
-    askCapabilities();
+    const bool loading = !notification.picture.isEmpty();
+    m_waiting.append({++m_lastNumber, notification, {}, loading});
+    if (loading)
+        loadPicture(m_lastNumber, notification.picture);
+    sendWhatIsReady();
+}
+
+void DBusNotifications::loadPicture(quint64 number, const QString &path)
+{
+    const auto loaded = [self = QPointer(this), number](const QImage &picture) {
+        if (!self)
+            return;
+        for (Waiting &waiting : self->m_waiting) {
+            if (waiting.number == number) {
+                waiting.picture = picture;
+                waiting.loading = false;
+            }
+        }
+        self->sendWhatIsReady();
+    };
+    m_images.load(path, {PictureSize, PictureSize}, loaded);
+}
+
+void DBusNotifications::sendWhatIsReady()
+{
+    if (!m_known && !m_waiting.isEmpty())
+        return askCapabilities();
+    while (!m_waiting.isEmpty() && !m_waiting.first().loading)
+        send(m_waiting.takeFirst());
 }
 
 void DBusNotifications::askCapabilities()
@@ -109,20 +116,19 @@ void DBusNotifications::capabilitiesAnswered(const QStringList &capabilities, bo
     m_actions = capabilities.contains(QStringLiteral("actions"));
     m_bodyFormat = capabilities.contains(QStringLiteral("body-markup")) ? BodyFormat::Markup
                                                                         : BodyFormat::Plain;
-    const QList<Ready> waiting = std::exchange(m_waiting, {});
-    for (const Ready &ready : waiting)
-        send(ready);
+    while (!m_waiting.isEmpty() && !m_waiting.first().loading)
+        send(m_waiting.takeFirst());
 }
 
-void DBusNotifications::send(const Ready &ready)
+void DBusNotifications::send(const Waiting &waiting)
 {
-    const Notification &notification = ready.notification;
+    const Notification &notification = waiting.notification;
     QVariantMap hints{
         {QStringLiteral("urgency"), QVariant::fromValue(urgency(notification.priority))},
         {QStringLiteral("desktop-entry"), Application}};
-    if (!ready.picture.isNull())
+    if (!waiting.picture.isNull())
         hints[QStringLiteral("image-data")] =
-            QVariant::fromValue(NotificationPicture::fromImage(ready.picture));
+            QVariant::fromValue(NotificationPicture::fromImage(waiting.picture));
     const bool clickable = notification.clickContext && m_actions;
     QStringList actions;
     if (clickable)

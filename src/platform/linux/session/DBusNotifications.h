@@ -36,10 +36,12 @@ private Q_SLOTS:
     void notificationClosed(uint id, uint reason, const QDBusMessage &message);
 
 private:
-    struct Ready
+    struct Waiting
     {
+        quint64 number;
         Notification notification;
         QImage picture;
+        bool loading; ///< The picture is being decoded.
     };
 
     struct Context
@@ -48,10 +50,11 @@ private:
         QString text;
     };
 
-    void makeReady(const Ready &ready);
+    void loadPicture(quint64 number, const QString &path);
+    void sendWhatIsReady();
     void askCapabilities();
     void capabilitiesAnswered(const QStringList &capabilities, bool stillThere);
-    void send(const Ready &ready);
+    void send(const Waiting &waiting);
     void sent(const QDBusMessage &reply, const std::optional<QString> &clickContext);
     void failed(const QString &description);
     void forgetService();
@@ -63,9 +66,9 @@ private:
     BusName m_service;
     NotificationsDelegate *m_delegate = nullptr;
     NotificationRegistration m_registration;
-    QList<Ready> m_waiting;
+    QList<Waiting> m_waiting; ///< In the order in which they are sent.
+    quint64 m_lastNumber = 0;
     QList<Context> m_contexts; ///< Oldest first.
-    int m_loading = 0; ///< Pictures that are being decoded.
     bool m_asking = false;
     bool m_known = false; ///< The two below are the running service's.
     bool m_actions = false;
