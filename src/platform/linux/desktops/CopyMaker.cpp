@@ -55,7 +55,7 @@ QString nameFor(const CopyOrder &order, const CopyPlan &plan)
     const QFileInfo info(order.picture);
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(order.picture.toUtf8());
-    for (const qint64 number : {info.lastModified().toMSecsSinceEpoch(), info.size(),
+    for (const qint64 number : {qint64(order.version), info.lastModified().toMSecsSinceEpoch(), info.size(),
                                 qint64(plan.scaledTo.width()), qint64(plan.scaledTo.height()),
                                 qint64(plan.cut.width()), qint64(plan.cut.height())}) {
         hash.addData("/");
@@ -75,10 +75,25 @@ QString existing(const QDir &folder, const QString &name)
     return {};
 }
 
+/// Makes full colours of few: scaling mixes them.
+QImage inFullColours(QImage image)
+{
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                            : QImage::Format_RGB32);
+    return image;
+}
+
 QImage readCopy(QImageReader &reader, const CopyPlan &plan, bool turned)
 {
-    reader.setScaledSize(turned ? plan.scaledTo.transposed() : plan.scaledTo);
-    const QImage image = reader.read();
+    // This decoder never holds the whole frame when it is to make a small one.
+    if (reader.format() == "jpeg")
+        reader.setScaledSize(turned ? plan.scaledTo.transposed() : plan.scaledTo);
+    QImage image = reader.read();
+    if (image.isNull())
+        return {};
+    image = inFullColours(std::move(image));
+    if (image.size() != plan.scaledTo)
+        image = image.scaled(plan.scaledTo, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return plan.cut.size() == image.size() ? image : image.copy(plan.cut);
 }
 

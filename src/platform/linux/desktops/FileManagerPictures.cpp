@@ -64,14 +64,14 @@ void FileManagerPictures::setDesktopImageUrl(
     std::function<void(tl::expected<void, DesktopError>)> done)
 {
     const QString path = pathOfUrl(url);
+    const char *refusal = nullptr;
     if (!QFileInfo(path).isFile())
-        add({{}, QStringLiteral("The picture is not a file."), scaling, std::move(done)});
+        refusal = "The picture is not a file.";
+    else if (!canKeep(m_desktop, path))
+        refusal = "The desktop's settings cannot hold this file name.";
     else if (!m_reading.slideshowFolder.isEmpty())
-        add({{},
-             QStringLiteral("The desktop's own slideshow is on, and only its settings turn it off."),
-             scaling, std::move(done)});
-    else
-        add({path, {}, scaling, std::move(done)});
+        refusal = "The desktop's own slideshow is on, and only its settings turn it off.";
+    add({refusal ? QString() : path, QString::fromLatin1(refusal), scaling, std::move(done)});
 }
 
 void FileManagerPictures::add(Job job)
@@ -87,17 +87,21 @@ void FileManagerPictures::add(Job job)
 
 void FileManagerPictures::startNext()
 {
-    if (m_jobs.empty())
+    if (m_isBusy || m_jobs.empty())
         return;
+    m_isBusy = true;
     Job &job = m_jobs.front();
     if (job.path.isEmpty())
         return finish(job.refusal);
-    if (job.attempts == 0) {
-        const QByteArray stamp = fileStamp(job.path);
-        job.path = spelling(job.path);
-        m_stamp = stamp;
-    }
-    job.attempts = 0;
+    const QByteArray stamp = fileStamp(job.path);
+    job.path = spelling(job.path);
+    m_stamp = stamp;
+    startCommand();
+}
+
+void FileManagerPictures::startCommand()
+{
+    const Job &job = m_jobs.front();
     m_process.start(QLatin1String(m_desktop.program),
                     setArguments(m_desktop, job.path, job.scaling));
     m_deadline.start();
@@ -113,16 +117,14 @@ void FileManagerPictures::check()
 {
     refresh();
     Job &job = m_jobs.front();
-    ++job.attempts;
+    ++job.checks;
     if (m_reading.image == job.path)
         return finish({});
-    if (job.attempts % ChecksPerCommand != 0)
+    if (job.checks % ChecksPerCommand != 0)
         return m_check.start();
-    if (job.attempts >= ChecksPerCommand * MostCommands)
+    if (job.checks >= ChecksPerCommand * MostCommands)
         return finish(QStringLiteral("The desktop did not take the picture."));
-    m_process.start(QLatin1String(m_desktop.program),
-                    setArguments(m_desktop, job.path, job.scaling));
-    m_deadline.start();
+    startCommand();
 }
 
 void FileManagerPictures::finish(const QString &failure)
@@ -130,6 +132,7 @@ void FileManagerPictures::finish(const QString &failure)
     m_deadline.stop();
     const Job job = std::move(m_jobs.front());
     m_jobs.pop_front();
+    m_isBusy = false;
     QMetaObject::invokeMethod(this, [this] { startNext(); }, Qt::QueuedConnection);
     if (failure.isEmpty())
         job.done({});
@@ -144,12 +147,15 @@ void FileManagerPictures::refresh()
                                                         : m_reading.slideshowFolder);
 }
 
-/// A path that the desktop has not got yet, if the file is another one than it was: a slash more or less.
+/// The path, spelled otherwise than before when the file is another one than it was: the desktop does
+/// not look at the same text twice.
 QString FileManagerPictures::spelling(const QString &path) const
 {
     const QString shown = m_reading.image;
-    if (m_desktop.repaints || QDir::cleanPath(shown) != path || m_stamp == fileStamp(path))
-        return QDir::cleanPath(shown) == path && !m_desktop.repaints ? shown : path;
+    if (m_desktop.repaints || QDir::cleanPath(shown) != path)
+        return path;
+    if (m_stamp == fileStamp(path))
+        return shown;
     return shown == path ? QLatin1String("/.") + path : path;
 }
 

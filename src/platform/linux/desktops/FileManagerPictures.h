@@ -38,11 +38,12 @@ private:
         QString refusal;
         DesktopScaling scaling;
         std::function<void(tl::expected<void, DesktopError>)> done;
-        int attempts = 0;
+        int checks = 0;
     };
 
     void add(Job job);
     void startNext();
+    void startCommand();
     void onEnded();
     void check();
     void finish(const QString &failure);
@@ -55,7 +56,8 @@ private:
     FileManagerReading m_reading;
     QString m_url;
     QByteArray m_stamp; ///< The file that was last set, as it was then.
-    std::deque<Job> m_jobs; ///< The first one is being done.
+    std::deque<Job> m_jobs; ///< The first one is being done while m_isBusy.
+    bool m_isBusy = false;
     QProcess m_process;
     QTimer m_deadline;
     QTimer m_check; ///< The settings are written a moment after the command has ended.

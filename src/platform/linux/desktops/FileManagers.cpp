@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QSettings>
 
+#include <algorithm>
+
 namespace moravel {
 
 namespace {
@@ -73,6 +75,14 @@ QStringList setArguments(const FileManagerDesktop &desktop, const QString &path,
                                                           : desktop.fill;
     return {QStringLiteral("--set-wallpaper"), path, QStringLiteral("--wallpaper-mode"),
             QLatin1String(mode)};
+}
+
+bool canKeep(const FileManagerDesktop &desktop, const QString &path)
+{
+    // Written as it stands, and read back with backslash sequences.
+    return !desktop.isKeyFile
+        || std::none_of(path.begin(), path.end(),
+                        [](QChar c) { return c < u' ' || c == 0x7f || c == u'\\'; });
 }
 
 QString settingsPath(const FileManagerDesktop &desktop, const QString &configFolder)

@@ -30,6 +30,9 @@ const FileManagerDesktop *fileManagerDesktop(const QString &word);
 QStringList setArguments(const FileManagerDesktop &desktop, const QString &path,
                          DesktopScaling scaling);
 
+/// Tells whether the settings can hold that path: some are written without escapes.
+bool canKeep(const FileManagerDesktop &desktop, const QString &path);
+
 /// The settings file below @p configFolder: of the desktop's profile, or the default one where only
 /// that exists.
 QString settingsPath(const FileManagerDesktop &desktop, const QString &configFolder);

@@ -140,8 +140,8 @@ void GSettingsPictures::restoreCopy()
     if (!m_copies)
         return;
     m_copies->restore(m_file, [this, lost = m_file](const QString &file) {
-        if (m_file != lost || file == lost)
-            return; // replaced meanwhile; or back under its name, which the shell notices
+        if (m_file != lost)
+            return; // replaced meanwhile
         const QString value = pictureValue(file, m_desktop.plainPath);
         m_keys.setText(m_desktop.pictureKey, value);
         if (m_desktop.darkKey)

@@ -85,13 +85,22 @@ void PlasmaPictures::setDesktopImageUrl(const QString &url, const QString &scree
     const QByteArray stamp = fileStamp(path);
     const QString image = spelling(path, screen);
     m_stamps.insert(screen, stamp);
-    run(plasmaSetScript(*corner, image, scaling), [this, screen, image, done](const Answer &answer) {
-        if (!answer) {
-            m_stamps.remove(screen);
+    run(plasmaSetScript(*corner, image, scaling), [=, this](const Answer &answer) {
+        if (answer)
+            return verify(screen, path, done);
+        m_stamps.remove(screen);
+        done(tl::make_unexpected(DesktopError{screen, answer.error()}));
+    });
+}
+
+void PlasmaPictures::verify(const QString &screen, const QString &path, const Done &done)
+{
+    // A script sees what it changed only after its end.
+    run(plasmaReadScript(), [this, screen, path, done](const Answer &answer) {
+        if (!answer)
             return done(tl::make_unexpected(DesktopError{screen, answer.error()}));
-        }
         keep(*answer);
-        if (m_shown.value(screen).image == image)
+        if (m_shown.value(screen).path == path)
             return done({});
         done(tl::make_unexpected(DesktopError{
             screen, QStringLiteral("The desktop did not keep the picture that it was given.")}));

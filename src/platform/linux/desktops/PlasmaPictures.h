@@ -44,6 +44,7 @@ private:
     };
 
     void run(const QString &script, std::function<void(const Answer &)> done);
+    void verify(const QString &screen, const QString &path, const Done &done);
     void keep(const QList<PlasmaDesktop> &desktops);
     void startAnew();
     QString spelling(const QString &path, const QString &screen) const;

@@ -50,6 +50,7 @@ for (var n = 0; n < all.length; n++) {
     desk.writeConfig("Image", %4);
 }
 if (!found) throw new Error("the desktop does not know this screen");
+print("[]");
 )";
 
 int fillMode(DesktopScaling scaling)
@@ -117,8 +118,7 @@ QString plasmaSetScript(const QPoint &corner, const QString &image, DesktopScali
     return QString::fromLatin1(SetScript).arg(QString::number(corner.x()),
                                               QString::number(corner.y()),
                                               QString::number(fillMode(scaling)),
-                                              scriptString(image))
-        + plasmaReadScript();
+                                              scriptString(image));
 }
 
 std::optional<QList<PlasmaDesktop>> parsePlasmaDesktops(const QString &printed)

@@ -24,8 +24,8 @@ struct PlasmaDesktop
 /// A script that prints the desktops of the current activity, for parsePlasmaDesktops().
 QString plasmaReadScript();
 
-/// A script that puts a picture onto the screen at @p corner, in all activities, and prints like
-/// plasmaReadScript(). Throws when there is no such screen.
+/// A script that puts a picture onto the screen at @p corner, in all activities, and prints an
+/// empty list. Throws when there is no such screen.
 QString plasmaSetScript(const QPoint &corner, const QString &image, DesktopScaling scaling);
 
 /// Reads what a script printed; none when that is damaged.

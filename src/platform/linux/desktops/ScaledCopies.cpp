@@ -60,35 +60,52 @@ ScaledCopies::~ScaledCopies()
 void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                            DesktopScaling scaling, std::function<void(QString)> done)
 {
-    m_pool.start([this, order = CopyOrder{picture, screens, scaling, m_folder},
+    const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture)};
+    m_pool.start([this, order,
                   done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {
             if (!name.isEmpty())
-                use({name, order.picture, order.screens, order.scaling});
+                use({name, order.picture, order.screens, order.scaling, order.version});
             done(name.isEmpty() ? order.picture : m_folder + u'/' + name);
         };
         QMetaObject::invokeMethod(&m_mainThread, deliver, Qt::QueuedConnection);
     });
 }
 
-QString ScaledCopies::original(const QString &path) const
+const ScaledCopies::Entry *ScaledCopies::find(const QString &path) const
 {
     for (const Entry &entry : m_entries) {
         if (path == m_folder + u'/' + entry.name)
-            return entry.original;
+            return &entry;
     }
-    return path;
+    return nullptr;
+}
+
+bool ScaledCopies::isLost(const Entry &entry) const
+{
+    return !QFileInfo::exists(m_folder + u'/' + entry.name);
+}
+
+int ScaledCopies::versionFor(const QString &picture) const
+{
+    for (const Entry &entry : m_entries) {
+        if (entry.original == picture)
+            return isLost(entry) ? entry.version + 1 : entry.version;
+    }
+    return 0;
+}
+
+QString ScaledCopies::original(const QString &path) const
+{
+    const Entry *entry = find(path);
+    return entry ? entry->original : path;
 }
 
 void ScaledCopies::restore(const QString &path, std::function<void(QString)> done)
 {
-    for (const Entry &entry : m_entries) {
-        if (path == m_folder + u'/' + entry.name && !QFileInfo::exists(path)) {
-            prepare(entry.original, entry.screens, entry.scaling, std::move(done));
-            return;
-        }
-    }
+    if (const Entry *entry = find(path); entry && isLost(*entry))
+        prepare(entry->original, entry->screens, entry->scaling, std::move(done));
 }
 
 void ScaledCopies::use(const Entry &entry)
@@ -111,7 +128,8 @@ void ScaledCopies::load()
     for (const QJsonValue &value : array) {
         const Entry entry{value[u"copy"].toString(), value[u"of"].toString(),
                           toScreens(value[u"screens"].toArray()),
-                          DesktopScaling(qBound(0, value[u"scaling"].toInt(), 2))};
+                          DesktopScaling(qBound(0, value[u"scaling"].toInt(), 2)),
+                          qBound(0, value[u"version"].toInt(), 1'000'000)};
         if (isCopyName(entry.name) && m_entries.size() < MostCopies)
             m_entries.append(entry);
     }
@@ -124,7 +142,8 @@ void ScaledCopies::save() const
         array.append(QJsonObject{{QStringLiteral("copy"), entry.name},
                                  {QStringLiteral("of"), entry.original},
                                  {QStringLiteral("screens"), toJson(entry.screens)},
-                                 {QStringLiteral("scaling"), int(entry.scaling)}});
+                                 {QStringLiteral("scaling"), int(entry.scaling)},
+                                 {QStringLiteral("version"), entry.version}});
     }
     QSaveFile file(listFile(m_folder));
     if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(array).toJson()) < 0

@@ -32,8 +32,8 @@ public:
     /// Returns the picture that @p path is a copy of; @p path itself when it is none of ours.
     QString original(const QString &path) const;
 
-    /// Makes the copy @p path anew if it is ours and its file is gone. Then calls @p done with the
-    /// file to hand over, else never.
+    /// Makes the copy @p path anew, under another name, if it is ours and its file is gone. Then calls
+    /// @p done with the file to hand over, else never.
     void restore(const QString &path, std::function<void(QString)> done);
 
 private:
@@ -43,8 +43,12 @@ private:
         QString original; ///< Plain path of the user's picture.
         QList<QSize> screens;
         DesktopScaling scaling = DesktopScaling::Fill;
+        int version = 0; ///< Counts how often it was lost: a desktop does not look at a name twice.
     };
 
+    const Entry *find(const QString &path) const;
+    bool isLost(const Entry &entry) const;
+    int versionFor(const QString &picture) const;
     void load();
     void save() const;
     void use(const Entry &entry);
