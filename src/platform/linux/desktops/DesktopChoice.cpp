@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "platform/linux/desktops/DesktopChoice.h"
+
+#include "platform/linux/desktops/DesktopLog.h"
+#include "platform/linux/desktops/WlrootsDesktop.h"
+#include "platform/linux/desktops/X11Desktop.h"
+#include "platform/linux/desktops/XfceDesktop.h"
+
+#include <QHash>
+
+namespace moravel {
+
+namespace {
+
+using Kind = DesktopKind;
+
+const QHash<QString, Kind> &kinds()
+{
+    static const QHash<QString, Kind> map{
+        {QStringLiteral("gnome"), Kind::Gnome},
+        {QStringLiteral("gnome-classic"), Kind::Gnome},
+        {QStringLiteral("gnome-flashback"), Kind::Gnome},
+        {QStringLiteral("unity"), Kind::Gnome},
+        {QStringLiteral("budgie"), Kind::Gnome},
+        {QStringLiteral("pantheon"), Kind::Gnome},
+        {QStringLiteral("x-cinnamon"), Kind::Cinnamon},
+        {QStringLiteral("cinnamon"), Kind::Cinnamon},
+        {QStringLiteral("mate"), Kind::Mate},
+        {QStringLiteral("kde"), Kind::Kde},
+        {QStringLiteral("xfce"), Kind::Xfce},
+        {QStringLiteral("lxqt"), Kind::Lxqt},
+        {QStringLiteral("lxde"), Kind::Lxde},
+        {QStringLiteral("hyprland"), Kind::Hyprland},
+        {QStringLiteral("sway"), Kind::Wlroots},
+        {QStringLiteral("wlroots"), Kind::Wlroots},
+        {QStringLiteral("river"), Kind::Wlroots},
+        {QStringLiteral("labwc"), Kind::Wlroots},
+        {QStringLiteral("wayfire"), Kind::Wlroots},
+        {QStringLiteral("niri"), Kind::Wlroots},
+        {QStringLiteral("dwl"), Kind::Wlroots},
+    };
+    return map;
+}
+
+std::unique_ptr<DesktopPictures> makeX11(const DesktopSetup &setup)
+{
+    auto root = RootWatch::start(X11Desktop::rootProperties());
+    if (!root)
+        return nullptr;
+    return std::make_unique<X11Desktop>(
+        setup.files, setup.supportFolder + QStringLiteral("/Desktop-X11.json"), std::move(root));
+}
+
+} // namespace
+
+SessionFacts sessionFacts()
+{
+    return {qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+            !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"),
+            !qEnvironmentVariableIsEmpty("DISPLAY")};
+}
+
+DesktopKind chooseDesktop(const SessionFacts &session)
+{
+    const QStringList names = session.currentDesktop.toLower().split(u':', Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        const auto kind = kinds().constFind(name.trimmed());
+        if (kind != kinds().cend())
+            return *kind;
+    }
+    return session.hasX11 && !session.isWayland ? Kind::X11 : Kind::Portal;
+}
+
+std::unique_ptr<DesktopPictures> makeDesktopPictures(const DesktopSetup &setup)
+{
+    switch (chooseDesktop(sessionFacts())) {
+    case Kind::Xfce:
+        return std::make_unique<XfceDesktop>(RootWatch::start(XfceDesktop::rootProperties()));
+    case Kind::Wlroots:
+        return std::make_unique<WlrootsDesktop>(
+            setup.files, setup.supportFolder + QStringLiteral("/Desktop-wlroots.json"));
+    case Kind::X11:
+        return makeX11(setup);
+    default:
+        qCInfo(desktopsLog) << "no way to set a picture on this desktop:"
+                            << sessionFacts().currentDesktop;
+        return nullptr;
+    }
+}
+
+} // namespace moravel
