@@ -11,13 +11,10 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
-
 #include <QRegularExpression>
 #include <QSaveFile>
 
 namespace moravel {
-
-
 
 namespace {
 
@@ -55,9 +52,10 @@ QString nameFor(const CopyOrder &order, const CopyPlan &plan)
     const QFileInfo info(order.picture);
     QCryptographicHash hash(QCryptographicHash::Sha1);
     hash.addData(order.picture.toUtf8());
-    for (const qint64 number : {qint64(order.version), info.lastModified().toMSecsSinceEpoch(), info.size(),
-                                qint64(plan.scaledTo.width()), qint64(plan.scaledTo.height()),
-                                qint64(plan.cut.width()), qint64(plan.cut.height())}) {
+    for (const qint64 number :
+         {qint64(order.version), info.lastModified().toMSecsSinceEpoch(), info.size(),
+          qint64(plan.scaledTo.width()), qint64(plan.scaledTo.height()), qint64(plan.cut.width()),
+          qint64(plan.cut.height())}) {
         hash.addData("/");
         hash.addData(QByteArray::number(number));
     }
@@ -132,8 +130,7 @@ QString makeCopy(const CopyOrder &order, const std::atomic<bool> &stop)
     if (qint64(stored.width()) * stored.height() > MostPixels)
         return {};
     const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
-    const auto plan
-        = planCopy(turned ? stored.transposed() : stored, order.screens, order.scaling);
+    const auto plan = planCopy(turned ? stored.transposed() : stored, order.screens, order.scaling);
     if (!plan || stop)
         return {};
     const QDir folder(order.folder);

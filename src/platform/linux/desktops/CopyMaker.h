@@ -17,7 +17,7 @@ struct CopyOrder
     QString picture; ///< Plain path.
     QList<QSize> screens;
     DesktopScaling scaling = DesktopScaling::Fill;
-    QString folder;  ///< Made when it is missing.
+    QString folder; ///< Made when it is missing.
     int version = 0; ///< Another one gives another name.
 };
 

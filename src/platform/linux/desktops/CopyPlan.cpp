@@ -36,14 +36,13 @@ std::optional<CopyPlan> planCopy(QSize picture, const QList<QSize> &screens, Des
         QSize kept = picture.boundedTo(room);
         kept += QSize((picture.width() - kept.width()) % 2, (picture.height() - kept.height()) % 2);
         plan.scaledTo = picture;
-        plan.cut = QRect(QPoint((picture.width() - kept.width()) / 2,
-                                (picture.height() - kept.height()) / 2),
-                         kept);
+        plan.cut = QRect(
+            QPoint((picture.width() - kept.width()) / 2, (picture.height() - kept.height()) / 2),
+            kept);
     } else {
-        plan.scaledTo = largestShown(picture, screens,
-                                     scaling == DesktopScaling::Fill
-                                         ? Qt::KeepAspectRatioByExpanding
-                                         : Qt::KeepAspectRatio);
+        plan.scaledTo = largestShown(
+            picture, screens,
+            scaling == DesktopScaling::Fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
         plan.cut = QRect(QPoint(0, 0), plan.scaledTo);
     }
     if (area(plan.cut.size()) * 4 > area(picture) * 3)

@@ -14,7 +14,7 @@ namespace moravel {
 struct CopyPlan
 {
     QSize scaledTo; ///< Size of the whole picture in the copy, before cutting.
-    QRect cut;      ///< The part of it that the copy holds.
+    QRect cut; ///< The part of it that the copy holds.
     bool operator==(const CopyPlan &) const = default;
 };
 

@@ -36,10 +36,13 @@ FileManagerPictures::FileManagerPictures(const FileManagerDesktop &desktop,
     m_check.setSingleShot(true);
     m_check.setInterval(CheckMs);
     connect(&m_process, &QProcess::finished, this, &FileManagerPictures::onEnded);
-    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            finish(QStringLiteral("The desktop's file manager cannot be started."));
-    }, Qt::QueuedConnection);
+    connect(
+        &m_process, &QProcess::errorOccurred, this,
+        [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                finish(QStringLiteral("The desktop's file manager cannot be started."));
+        },
+        Qt::QueuedConnection);
     connect(&m_deadline, &QTimer::timeout, &m_process, &QProcess::kill);
     connect(&m_check, &QTimer::timeout, this, &FileManagerPictures::check);
     refresh();
@@ -82,7 +85,8 @@ void FileManagerPictures::add(Job job)
     }
     m_jobs.push_back(std::move(job));
     if (m_jobs.size() == 1)
-        QMetaObject::invokeMethod(this, [this] { startNext(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { startNext(); }, Qt::QueuedConnection);
 }
 
 void FileManagerPictures::startNext()
@@ -133,7 +137,8 @@ void FileManagerPictures::finish(const QString &failure)
     const Job job = std::move(m_jobs.front());
     m_jobs.pop_front();
     m_isBusy = false;
-    QMetaObject::invokeMethod(this, [this] { startNext(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { startNext(); }, Qt::QueuedConnection);
     if (failure.isEmpty())
         job.done({});
     else

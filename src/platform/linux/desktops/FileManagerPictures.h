@@ -25,8 +25,11 @@ public:
     ~FileManagerPictures() override;
 
     QString name() const override { return QString::fromLatin1(m_desktop.name); }
+
     DesktopAbilities abilities() const override { return {}; }
+
     QList<DesktopScreen> screens() const override { return m_screens.list(); }
+
     QString desktopImageUrl(const QString &screen) const override;
     void setDesktopImageUrl(const QString &url, const QString &screen, DesktopScaling scaling,
                             std::function<void(tl::expected<void, DesktopError>)> done) override;

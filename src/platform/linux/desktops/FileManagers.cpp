@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include <glib.h>
-
 #include "platform/linux/desktops/FileManagers.h"
 
 #include <QFileInfo>
 #include <QSettings>
 
 #include <algorithm>
+#include <glib.h>
 
 namespace moravel {
 
@@ -80,9 +79,9 @@ QStringList setArguments(const FileManagerDesktop &desktop, const QString &path,
 bool canKeep(const FileManagerDesktop &desktop, const QString &path)
 {
     // Written as it stands, and read back with backslash sequences.
-    return !desktop.isKeyFile
-        || std::none_of(path.begin(), path.end(),
-                        [](QChar c) { return c < u' ' || c == 0x7f || c == u'\\'; });
+    return !desktop.isKeyFile || std::none_of(path.begin(), path.end(), [](QChar c) {
+        return c < u' ' || c == 0x7f || c == u'\\';
+    });
 }
 
 QString settingsPath(const FileManagerDesktop &desktop, const QString &configFolder)
@@ -101,8 +100,7 @@ FileManagerReading readSettings(const FileManagerDesktop &desktop, const QString
     const QFileInfo info(file);
     if (!info.isFile() || info.size() > LargestSettings)
         return {};
-    FileManagerReading reading
-        = desktop.isKeyFile ? readKeyFile(file.toUtf8()) : readIni(file);
+    FileManagerReading reading = desktop.isKeyFile ? readKeyFile(file.toUtf8()) : readIni(file);
     if (!reading.slideshowFolder.isEmpty() && !reading.slideshowFolder.endsWith(u'/'))
         reading.slideshowFolder += u'/';
     return reading;

@@ -9,8 +9,8 @@ namespace moravel {
 QByteArray fileStamp(const QString &path)
 {
     const QFileInfo info(path);
-    const QFileDevice::FileTime times[]
-        = {QFileDevice::FileModificationTime, QFileDevice::FileMetadataChangeTime};
+    const QFileDevice::FileTime times[] = {QFileDevice::FileModificationTime,
+                                           QFileDevice::FileMetadataChangeTime};
     QByteArray stamp = QByteArray::number(info.size());
     for (const auto time : times)
         stamp += ' ' + QByteArray::number(info.fileTime(time).toMSecsSinceEpoch());

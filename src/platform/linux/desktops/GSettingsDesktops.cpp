@@ -22,12 +22,13 @@ constexpr GSettingsDesktop Rows[] = {
      false},
     {"Unity", "unity", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, false},
     {"GNOME", "gnome", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, true},
+    {"GNOME", "gnome-classic", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, true},
     {"Cinnamon", "x-cinnamon", CinnamonSchema, Uri, nullptr, nullptr, CinnamonSlideshow, false,
      false},
     {"Cinnamon", "cinnamon", CinnamonSchema, Uri, nullptr, nullptr, CinnamonSlideshow, false,
      false},
-    {"MATE", "mate", "org.mate.background", "picture-filename", nullptr, "draw-background",
-     nullptr, true, false},
+    {"MATE", "mate", "org.mate.background", "picture-filename", nullptr, "draw-background", nullptr,
+     true, false},
 };
 
 bool isTimed(const QString &path)
@@ -89,9 +90,9 @@ QString shownPath(const GSettingsReading &reading)
 
 QString pictureValue(const QString &path, bool plainPath)
 {
-    return plainPath ? path
-                     : fileUrl(path).replace(QLatin1String("file://localhost/"),
-                                             QLatin1String("file:///"));
+    return plainPath
+        ? path
+        : fileUrl(path).replace(QLatin1String("file://localhost/"), QLatin1String("file:///"));
 }
 
 QString pictureOptions(DesktopScaling scaling)

@@ -12,15 +12,15 @@ namespace moravel {
 /// Where one desktop keeps its picture in GSettings. A null key is one that the desktop does not have.
 struct GSettingsDesktop
 {
-    const char *name;          ///< For the log and messages.
-    const char *word;          ///< Its word in XDG_CURRENT_DESKTOP, lower case.
+    const char *name; ///< For the log and messages.
+    const char *word; ///< Its word in XDG_CURRENT_DESKTOP, lower case.
     const char *schema;
     const char *pictureKey;
-    const char *darkKey;       ///< The picture while the dark colour scheme is on.
-    const char *drawKey;       ///< Whether a picture is drawn at all.
+    const char *darkKey; ///< The picture while the dark colour scheme is on.
+    const char *drawKey; ///< Whether a picture is drawn at all.
     const char *slideshowSchema; ///< Has slideshow-enabled and image-source.
-    bool plainPath;            ///< The picture is a path rather than a URI.
-    bool keepsPictures;        ///< The shell never frees a picture: large ones are handed over as copies.
+    bool plainPath; ///< The picture is a path rather than a URI.
+    bool keepsPictures; ///< The shell never frees a picture: large ones are handed over as copies.
 };
 
 /// Finds the row of a desktop by its word in XDG_CURRENT_DESKTOP, any case; null when there is none.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <gio/gio.h>
-
 #include "platform/linux/desktops/GSettingsKeys.h"
 
 #include <QAbstractEventDispatcher>
+
+#include <gio/gio.h>
 
 namespace moravel {
 

@@ -26,8 +26,11 @@ public:
     bool isUsable() const;
 
     QString name() const override { return QString::fromLatin1(m_desktop.name); }
+
     DesktopAbilities abilities() const override { return {}; }
+
     QList<DesktopScreen> screens() const override { return m_screens.list(); }
+
     QString desktopImageUrl(const QString &screen) const override;
     void setDesktopImageUrl(const QString &url, const QString &screen, DesktopScaling scaling,
                             std::function<void(tl::expected<void, DesktopError>)> done) override;
@@ -51,7 +54,7 @@ private:
     std::unique_ptr<ScaledCopies> m_copies; ///< Null where the desktop frees its pictures.
     Screens m_screens;
     QString m_file; ///< Plain path of what the desktop shows; may be a copy of ours.
-    QString m_url;  ///< URL text of what the user sees in it.
+    QString m_url; ///< URL text of what the user sees in it.
     QObject m_context; ///< Queued calls go with it.
 };
 

@@ -25,8 +25,11 @@ public:
     explicit PlasmaPictures(const QDBusConnection &bus = QDBusConnection::sessionBus());
 
     QString name() const override { return QStringLiteral("KDE Plasma"); }
+
     DesktopAbilities abilities() const override { return {.perScreen = true}; }
+
     QList<DesktopScreen> screens() const override { return m_screens.list(); }
+
     QString desktopImageUrl(const QString &screen) const override;
     void setDesktopImageUrl(const QString &url, const QString &screen, DesktopScaling scaling,
                             std::function<void(tl::expected<void, DesktopError>)> done) override;
@@ -54,7 +57,7 @@ private Q_SLOTS:
 
 private:
     QDBusConnection m_bus;
-    QHash<QString, Shown> m_shown;      ///< By screen.
+    QHash<QString, Shown> m_shown; ///< By screen.
     QHash<QString, QByteArray> m_stamps; ///< By screen: the file that was last set, as it was then.
     Screens m_screens;
     QDBusServiceWatcher m_shell;

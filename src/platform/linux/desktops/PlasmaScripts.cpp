@@ -115,10 +115,9 @@ QString plasmaReadScript()
 QString plasmaSetScript(const QPoint &corner, const QString &image, DesktopScaling scaling)
 {
     // All at once: a "%1" in the name must stay one.
-    return QString::fromLatin1(SetScript).arg(QString::number(corner.x()),
-                                              QString::number(corner.y()),
-                                              QString::number(fillMode(scaling)),
-                                              scriptString(image));
+    return QString::fromLatin1(SetScript).arg(
+        QString::number(corner.x()), QString::number(corner.y()),
+        QString::number(fillMode(scaling)), scriptString(image));
 }
 
 std::optional<QList<PlasmaDesktop>> parsePlasmaDesktops(const QString &printed)

@@ -15,9 +15,9 @@ namespace moravel {
 /// What the shell says of one of its desktops.
 struct PlasmaDesktop
 {
-    QPoint corner;   ///< Top left of its screen.
-    QString plugin;  ///< Of the wallpaper.
-    QString image;   ///< As set: URL text or plain path of a file or a wallpaper package.
+    QPoint corner; ///< Top left of its screen.
+    QString plugin; ///< Of the wallpaper.
+    QString image; ///< As set: URL text or plain path of a file or a wallpaper package.
     QString folders; ///< Of a slideshow, parted by commas.
 };
 

@@ -9,12 +9,9 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
 #include <QSaveFile>
 
 namespace moravel {
-
-
 
 namespace {
 
@@ -61,8 +58,7 @@ void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                            DesktopScaling scaling, std::function<void(QString)> done)
 {
     const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture)};
-    m_pool.start([this, order,
-                  done = std::move(done)] {
+    m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {
             if (!name.isEmpty())

@@ -39,7 +39,7 @@ public:
 private:
     struct Entry
     {
-        QString name;     ///< File name of the copy.
+        QString name; ///< File name of the copy.
         QString original; ///< Plain path of the user's picture.
         QList<QSize> screens;
         DesktopScaling scaling = DesktopScaling::Fill;
@@ -56,7 +56,7 @@ private:
 
     QString m_folder;
     QList<Entry> m_entries; ///< The last one first; two at most.
-    QObject m_mainThread;   ///< Receives the results; those still posted go with it.
+    QObject m_mainThread; ///< Receives the results; those still posted go with it.
     std::atomic<bool> m_stop = false;
     QThreadPool m_pool; ///< One thread: results come in order.
 };
