@@ -2,6 +2,8 @@
 #include "platform/linux/desktops/DesktopChoice.h"
 
 #include "platform/linux/desktops/DesktopLog.h"
+#include "platform/linux/desktops/PlasmaPictures.h"
+#include "platform/linux/desktops/SettingsPictures.h"
 #include "platform/linux/desktops/WlrootsDesktop.h"
 #include "platform/linux/desktops/X11Desktop.h"
 #include "platform/linux/desktops/XfceDesktop.h"
@@ -74,6 +76,14 @@ DesktopKind chooseDesktop(const SessionFacts &session)
 std::unique_ptr<DesktopPictures> makeDesktopPictures(const DesktopSetup &setup)
 {
     switch (chooseDesktop(sessionFacts())) {
+    case Kind::Gnome:
+    case Kind::Cinnamon:
+    case Kind::Mate:
+    case Kind::Lxqt:
+    case Kind::Lxde:
+        return makeSettingsPictures(sessionFacts().currentDesktop, setup.supportFolder);
+    case Kind::Kde:
+        return std::make_unique<PlasmaPictures>();
     case Kind::Xfce:
         return std::make_unique<XfceDesktop>(RootWatch::start(XfceDesktop::rootProperties()));
     case Kind::Wlroots:
