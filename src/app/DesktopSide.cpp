@@ -44,12 +44,14 @@ DesktopSide::DesktopSide(const ServiceContext &context, Preferences &preferences
 
 void DesktopSide::fillServicePorts(PictureService &service)
 {
-    m_ports.isDownloading
-        = [&service](const QString &path) { return service.downloads().isDownloading(path); };
+    m_ports.isDownloading = [&service](const QString &path) {
+        return service.downloads().isDownloading(path);
+    };
     m_ports.loadNextThumb = [&service] { service.thumbPass().loadNextThumb(); };
     m_ports.sufficientData = [](const QStringList &fields) { return sufficientData(fields); };
-    m_ports.longSourceName
-        = [this](const QString &name) { return m_service.sourceNames.value(name); };
+    m_ports.longSourceName = [this](const QString &name) {
+        return m_service.sourceNames.value(name);
+    };
     m_ports.pixelSize = [this](const QString &path, std::function<void(QSize)> done) {
         m_service.platform.images.check(path, std::move(done));
     };
@@ -74,8 +76,9 @@ void DesktopSide::fillPlatformPorts()
     };
     m_ports.showDockTile = [this](const QImage &image) { showIcon(image); };
     m_ports.activate = [this] { activate(); };
-    m_ports.revealFile
-        = [this](const QString &path) { m_platform.workspace.revealInFileManager(path); };
+    m_ports.revealFile = [this](const QString &path) {
+        m_platform.workspace.revealInFileManager(path);
+    };
     m_ports.runDesktopPrefsScript = [this](std::function<void(const QString &)> done) {
         m_platform.workspace.openDesktopSettings(std::move(done));
     };
@@ -86,7 +89,8 @@ void DesktopSide::tieTray()
     m_platform.tray.onMenuNeeded = [this] {
         QList<TrayMenuItem> items;
         for (const DockMenuItem &item : m_management.applicationDockMenu())
-            items.append({item.title, QString::number(static_cast<int>(item.command)), item.isEnabled()});
+            items.append(
+                {item.title, QString::number(static_cast<int>(item.command)), item.isEnabled()});
         return items;
     };
     m_platform.tray.onCommand = [this](const QString &command) {

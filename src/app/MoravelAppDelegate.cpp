@@ -49,8 +49,9 @@ void MoravelAppDelegate::buildDesktop(const DesktopPlatform &desktop)
     m_desktop = std::make_unique<DesktopSide>(m_context, m_preferences, desktop, m_service);
     DesktopManagement &management = m_desktop->management();
     m_ports.currentDesktopPath = [&management] { return management.currentDesktopPath(); };
-    m_ports.rotateDesktop
-        = [&management](ThumbView &) { management.rotation().rotateDesktop(RotateSender::Button); };
+    m_ports.rotateDesktop = [&management](ThumbView &) {
+        management.rotation().rotateDesktop(RotateSender::Button);
+    };
     m_ports.newPicture = [this](const ThumbView &cell, const QString &path) {
         m_desktop->growl().newPicture(cell, path);
     };
@@ -65,21 +66,20 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
         };
     };
     ThumbCommands commands;
-    commands.refreshDataForThumb
-        = inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    commands.refreshDataForThumb =
+        inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
     if (!withDesktop)
         return commands;
     constexpr int DoubleClick = 2; // the cell has counted the clicks already
-    commands.setAsDesktop = inTurn([this](ThumbView &cell) {
-        m_desktop->management().setAsDesktop(cell, DoubleClick);
-    });
-    commands.showInFinder
-        = inTurn([this](ThumbView &cell) { m_desktop->management().showInFinder(cell); });
+    commands.setAsDesktop = inTurn(
+        [this](ThumbView &cell) { m_desktop->management().setAsDesktop(cell, DoubleClick); });
+    commands.showInFinder =
+        inTurn([this](ThumbView &cell) { m_desktop->management().showInFinder(cell); });
     commands.newDesktop = inTurn([this](ThumbView &) {
         m_desktop->management().rotation().rotateDesktop(RotateSender::Button);
     });
-    commands.previousDesktop = inTurn(
-        [this](ThumbView &) { m_desktop->management().rotation().previousDesktop(); });
+    commands.previousDesktop =
+        inTurn([this](ThumbView &) { m_desktop->management().rotation().previousDesktop(); });
     return commands;
 }
 

@@ -94,11 +94,12 @@ TEST(Architecture, foldersIncludeOnlyLowerFloors)
 
 TEST(Architecture, logicFoldersShowAndConnectNothing)
 {
-    static const QRegularExpression outside(QStringLiteral(
-        "#include "
-        "<Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop)>"));
+    static const QRegularExpression outside(
+        QStringLiteral("#include "
+                       "<Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop)>"));
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR "/src/");
-    for (const char *folder : {"platform", "text", "base", "store", "thumb", "notify", "service", "desktop"}) {
+    for (const char *folder :
+         {"platform", "text", "base", "store", "thumb", "notify", "service", "desktop"}) {
         QDirIterator it(root + QLatin1String(folder),
                         {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (it.hasNext()) {
