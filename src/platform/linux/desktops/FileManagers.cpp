@@ -80,7 +80,7 @@ bool canKeep(const FileManagerDesktop &desktop, const QString &path)
 {
     // Written as it stands, and read back with backslash sequences.
     return !desktop.isKeyFile || std::none_of(path.begin(), path.end(), [](QChar c) {
-        return c < u' ' || c == 0x7f || c == u'\\';
+        return c < u' ' || c == QChar(0x7f) || c == u'\\';
     });
 }
 
