@@ -13,7 +13,8 @@
 namespace moravel::bench {
 
 /// The platform that users have; the folders follow HOME and the XDG variables.
-struct RealPlatform {
+struct RealPlatform
+{
     QtMainLoop loop;
     QtHttp http;
     QtDefaults defaults;

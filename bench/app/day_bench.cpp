@@ -3,6 +3,7 @@
 // heart every 5 ms meanwhile, and tells how long the cells took and the longest stall of the main loop.
 // Ends after SECONDS whatever happens, so that a hanging service can be measured too.
 #include "RealPlatform.h"
+
 #include "app/MoravelAppDelegate.h"
 
 #include <QApplication>
@@ -60,7 +61,8 @@ int main(int argc, char **argv)
     QApplication::exec();
     const auto cells = delegate.cells().count();
     // The first pass starts after 0.5 s, and requests go out 0.5 s apart.
-    std::printf("cells %d, shown after %.2f s (bound %.2f s), longest gap between 5 ms beats %lld ms\n", cells,
-                shownAfter, 0.5 + 0.5 * cells, static_cast<long long>(worst));
+    std::printf(
+        "cells %d, shown after %.2f s (bound %.2f s), longest gap between 5 ms beats %lld ms\n",
+        cells, shownAfter, 0.5 + 0.5 * cells, static_cast<long long>(worst));
     return 0;
 }

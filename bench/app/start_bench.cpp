@@ -2,13 +2,15 @@
 // start_bench moravel|bare: starts the application, or a bare main window, and ends at the first painted
 // frame. scripts/bench-start times both in turn.
 #include "RealPlatform.h"
+
 #include "app/MoravelAppDelegate.h"
 
 #include <QApplication>
 
 namespace {
 
-class EndAtFirstPaint : public QObject {
+class EndAtFirstPaint : public QObject
+{
     bool eventFilter(QObject *object, QEvent *event) override
     {
         if (event->type() == QEvent::Paint && !m_painted) {
@@ -17,6 +19,7 @@ class EndAtFirstPaint : public QObject {
         }
         return QObject::eventFilter(object, event);
     }
+
     bool m_painted = false;
 };
 
@@ -35,7 +38,8 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
     moravel::bench::RealPlatform platform;
-    moravel::MoravelAppDelegate delegate(platform.lend(), QStringLiteral("http://127.0.0.1:9/potd"), {});
+    moravel::MoravelAppDelegate delegate(platform.lend(), QStringLiteral("http://127.0.0.1:9/potd"),
+                                         {});
     delegate.applicationWillFinishLaunching();
     delegate.window().installEventFilter(&end);
     delegate.window().show();

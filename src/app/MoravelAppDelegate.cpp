@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 namespace moravel {
@@ -19,7 +20,8 @@ ThumbImages thumbImages(const Images &images)
 
 } // namespace
 
-MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl, Options options)
+MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &baseUrl,
+                                       Options options)
     : m_platform(platform)
     , m_options(std::move(options))
     , m_preferences(m_platform.defaults)
@@ -30,8 +32,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform, const QString &
                 [this](const QString &name) { return m_legacy.oldStoredDataForFile(name); })
     , m_updates(m_records, m_legacy, m_dates)
     , m_links(m_folders, m_platform.files)
-    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records, m_updates, m_links,
-                 m_ports},
+    , m_service({m_platform, m_dates, m_datePicker, m_cells, m_sourceNames, m_folders, m_records,
+                 m_updates, m_links, m_ports},
                 baseUrl)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
@@ -69,7 +71,10 @@ void MoravelAppDelegate::buildWindow()
 {
     m_toolTips = std::make_unique<ToolTips>(m_cells, m_preferences);
     m_window = std::make_unique<MainWindow>(m_cells, m_datePicker, *m_dateNavigation, *m_toolTips);
-    m_window->windowShouldClose = [] { return true; };
+    m_window->windowShouldClose = [] {
+        QCoreApplication::quit(); // also when an alert is still open
+        return true;
+    };
     SourceGridPorts ports;
     ports.startPass = [this](double seconds) { m_service.thumbPass().restart(seconds); };
     ports.retry = [this] { askForSourcesAgain(); };

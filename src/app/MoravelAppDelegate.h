@@ -19,7 +19,8 @@ namespace moravel {
 
 /// Owns the application: builds the collaborators, ties them, and carries the order of start-up and
 /// shutdown. It decides nothing about pictures.
-class MoravelAppDelegate : public QObject {
+class MoravelAppDelegate : public QObject
+{
     Q_OBJECT
 
 public:
@@ -35,7 +36,9 @@ public:
     void applicationShouldTerminate();
 
     void showStatus(const QString &text);
+
     MainWindow &window() const { return *m_window; }
+
     const ThumbCells &cells() const { return m_cells; }
 
 private:

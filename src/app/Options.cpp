@@ -15,7 +15,8 @@ tl::expected<Options, QString> parseOptions(const QStringList &arguments)
         } else if (name == u"--sources") {
             const bool inOne = arguments[i].contains(u'=');
             if (!inOne && i + 1 >= arguments.size())
-                return tl::unexpected(QStringLiteral("--sources needs \"all\" or a list of source names"));
+                return tl::unexpected(
+                    QStringLiteral("--sources needs \"all\" or a list of source names"));
             const QString value = inOne ? arguments[i].section(u'=', 1) : arguments[++i];
             options.sources = value.split(u',', Qt::SkipEmptyParts);
             for (QString &source : *options.sources)
@@ -34,7 +35,8 @@ QString helpText()
         "\n"
         "Shows the pictures of the day of many sources and keeps them in your Pictures folder.\n"
         "\n"
-        "  --sources LIST  switches these sources on (and remembers it); \"all\" means every source\n"
+        "  --sources LIST  switches these sources on (and remembers it); \"all\" means every "
+        "source\n"
         "  --version       prints the version and the address of the service\n"
         "  -h, --help      prints this text\n");
 }

@@ -9,7 +9,8 @@
 namespace moravel {
 
 /// What the command line asks for.
-struct Options {
+struct Options
+{
     enum class Action { Run, PrintVersion, PrintHelp };
 
     Action action = Action::Run;

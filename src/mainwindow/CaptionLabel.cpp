@@ -90,7 +90,7 @@ const CaptionLabel::Layout &CaptionLabel::layoutFor(int width, int most) const
     m_layoutWidth = width;
     m_layoutLines = most;
     m_layout = {};
-    QString text = m_text.left(LongestLine * most);
+    QString text = m_text.left(qsizetype(LongestLine) * most);
     text.replace(u'\n', QChar::LineSeparator);
     QTextLayout layout(text, font());
     QTextOption option;

@@ -8,8 +8,8 @@
 
 namespace moravel {
 
-CellButton::CellButton(const QString &iconName, const QString &accessibleName, QWidget *parent)
-    : QAbstractButton(parent), m_iconName(iconName)
+CellButton::CellButton(QString iconName, const QString &accessibleName, QWidget *parent)
+    : QAbstractButton(parent), m_iconName(std::move(iconName))
 {
     setAccessibleName(accessibleName);
     setAttribute(Qt::WA_Hover);

@@ -11,7 +11,7 @@ class CellButton : public QAbstractButton
     Q_OBJECT
 
 public:
-    CellButton(const QString &iconName, const QString &accessibleName, QWidget *parent = nullptr);
+    CellButton(QString iconName, const QString &accessibleName, QWidget *parent = nullptr);
 
     QSize sizeHint() const override { return {28, 26}; }
 

@@ -93,7 +93,7 @@ GridPanel *makeLoadingPanel()
     return new LoadingPanel;
 }
 
-GridPanel *makeNoServicePanel(std::function<void()> retry)
+GridPanel *makeNoServicePanel(const std::function<void()> &retry)
 {
     auto *panel = new MessagePanel(
         QStringLiteral("noServicePanel"), QStringLiteral("no-service"),

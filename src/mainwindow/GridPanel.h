@@ -38,7 +38,7 @@ private:
 
 GridPanel *makeLoadingPanel();
 /// @p retry asks the service again; without it no button is offered.
-GridPanel *makeNoServicePanel(std::function<void()> retry);
+GridPanel *makeNoServicePanel(const std::function<void()> &retry);
 GridPanel *makeNothingSelectedPanel();
 
 } // namespace moravel

@@ -63,7 +63,7 @@ void PictureView::refreshScaled()
     QPainter painter(&scaled); // cut the round corners out once, rather than at each painting
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-    painter.translate((wanted.width() - room.width()) / 2, (wanted.height() - room.height()) / 2);
+    painter.translate((wanted.width() - room.width()) * 0.5, (wanted.height() - room.height()) * 0.5);
     painter.scale(scale, scale);
     QPainterPath corners;
     corners.addRect(rect());

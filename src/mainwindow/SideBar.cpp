@@ -48,11 +48,16 @@ QLabel *makeLongDate(DatePicker &picker, QWidget *parent)
 
 SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActions &actions,
                  QWidget *parent)
-    : QWidget(parent), m_nextChange(new CaptionLabel(3, this))
+    : QWidget(parent)
+    , m_nextChange(new CaptionLabel(3, this))
+    , m_keepButton(new QPushButton(tr("&Keep for 1 hour"), this))
 {
     setObjectName(QStringLiteral("sideBar"));
     m_nextChange->setObjectName(QStringLiteral("nextChange"));
     m_nextChange->hide();
+    m_keepButton->setObjectName(QStringLiteral("keepButton"));
+    m_keepButton->hide();
+    connect(m_keepButton, &QPushButton::clicked, this, &SideBar::keepButtonClicked);
     auto *desktop = new CellWidget(desktopThumb, this);
     desktop->setObjectName(QStringLiteral("desktopThumb"));
     desktop->setFixedSize(grid::CellWidth - Margin, grid::CellHeight);
@@ -61,6 +66,7 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
     column->setSpacing(8);
     column->addWidget(desktop);
     column->addWidget(m_nextChange);
+    column->addWidget(m_keepButton);
     column->addSpacing(4);
     column->addWidget(makeLongDate(datePicker, this));
     column->addWidget(makeDateRow(datePicker, actions));
@@ -86,6 +92,11 @@ void SideBar::setNextChange(const QString &text)
 {
     m_nextChange->setText(text);
     m_nextChange->setVisible(!text.isEmpty());
+}
+
+void SideBar::setKeepButtonVisible(bool visible)
+{
+    m_keepButton->setVisible(visible);
 }
 
 } // namespace moravel

@@ -5,6 +5,7 @@
 #include "thumb/ThumbView.h"
 
 #include <QAction>
+#include <QPushButton>
 #include <QWidget>
 
 namespace moravel {
@@ -31,10 +32,17 @@ public:
     /// Shows when the desktop changes next, as plain text; an empty text takes no room.
     void setNextChange(const QString &text);
 
+    /// Shows or hides the button that keeps this desktop for an hour.
+    void setKeepButtonVisible(bool visible);
+
+Q_SIGNALS:
+    void keepButtonClicked();
+
 private:
     QWidget *makeDateRow(DatePicker &datePicker, const DateActions &actions);
 
     CaptionLabel *m_nextChange;
+    QPushButton *m_keepButton;
 };
 
 } // namespace moravel

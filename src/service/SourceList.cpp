@@ -23,7 +23,11 @@ SourceNames parseSources(const QString &text)
 
 SourceList::SourceList(const HeldFetch &fetch, ServiceUrls urls, Files &files, Folders &folders,
                        SourceNames &sourceNames)
-    : m_fetch(fetch), m_urls(std::move(urls)), m_files(files), m_folders(folders), m_sourceNames(sourceNames)
+    : m_fetch(fetch)
+    , m_urls(std::move(urls))
+    , m_files(files)
+    , m_folders(folders)
+    , m_sourceNames(sourceNames)
 { }
 
 void SourceList::getSources(const Then &then)

@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -44,7 +45,8 @@ QString folderOf(const QString &path)
     return folder == u"platform" && path.count(u'/') > 1 ? sub : folder;
 }
 
-struct Include {
+struct Include
+{
     QString file;
     QString folder;
     QString target;
@@ -55,7 +57,8 @@ QList<Include> includesBelow(const QString &root, const QString &prefix)
     static const QRegularExpression line(QStringLiteral("^\\s*#\\s*include\\s+\"([^\"]+)\""),
                                          QRegularExpression::MultilineOption);
     QList<Include> list;
-    QDirIterator it(root, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files, QDirIterator::Subdirectories);
+    QDirIterator it(root, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
+                    QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString path = it.next();
         QFile file(path);
@@ -72,8 +75,8 @@ QList<Include> includesBelow(const QString &root, const QString &prefix)
 TEST(Architecture, foldersIncludeOnlyLowerFloors)
 {
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR);
-    const QList<Include> includes
-        = includesBelow(root + QStringLiteral("/src"), {}) + includesBelow(root + QStringLiteral("/server"), QStringLiteral("server/"));
+    const QList<Include> includes = includesBelow(root + QStringLiteral("/src"), {})
+        + includesBelow(root + QStringLiteral("/server"), QStringLiteral("server/"));
     const Table table = allowed();
     EXPECT_GT(includes.size(), 100);
     for (const Include &include : includes) {
@@ -89,14 +92,17 @@ TEST(Architecture, foldersIncludeOnlyLowerFloors)
 TEST(Architecture, logicFoldersDrawAndConnectNothing)
 {
     static const QRegularExpression outside(QStringLiteral(
-        "#include <Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop|Painter)>"));
+        "#include "
+        "<Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop|Painter)>"));
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR "/src/");
     for (const char *folder : {"platform", "text", "base", "store", "thumb", "service"}) {
-        QDirIterator it(root + QLatin1String(folder), {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
+        QDirIterator it(root + QLatin1String(folder),
+                        {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (it.hasNext()) {
             QFile file(it.next());
             ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-            EXPECT_FALSE(outside.match(QString::fromUtf8(file.readAll())).hasMatch()) << qPrintable(file.fileName());
+            EXPECT_FALSE(outside.match(QString::fromUtf8(file.readAll())).hasMatch())
+                << qPrintable(file.fileName());
         }
     }
 }
@@ -104,13 +110,15 @@ TEST(Architecture, logicFoldersDrawAndConnectNothing)
 TEST(Architecture, everySourceNamesItsLicence)
 {
     for (const char *folder : {"src", "server", "tests", "bench"}) {
-        QDirIterator it(QStringLiteral(MORAVEL_SOURCE_DIR "/") + QLatin1String(folder),
-                        {QStringLiteral("*.h"), QStringLiteral("*.cpp"), QStringLiteral("CMakeLists.txt")}, QDir::Files,
-                        QDirIterator::Subdirectories);
+        QDirIterator it(
+            QStringLiteral(MORAVEL_SOURCE_DIR "/") + QLatin1String(folder),
+            {QStringLiteral("*.h"), QStringLiteral("*.cpp"), QStringLiteral("CMakeLists.txt")},
+            QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             QFile file(it.next());
             ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-            EXPECT_TRUE(file.readLine().contains("SPDX-License-Identifier: MIT")) << qPrintable(file.fileName());
+            EXPECT_TRUE(file.readLine().contains("SPDX-License-Identifier: MIT"))
+                << qPrintable(file.fileName());
         }
     }
 }

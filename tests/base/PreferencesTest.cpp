@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "base/DatePicker.h"
 #include "base/Preferences.h"
+
 #include "support/FakePlatform.h"
+
+#include "base/DatePicker.h"
 
 #include <gtest/gtest.h>
 

@@ -18,7 +18,8 @@ QStringList lines(const char *text)
 
 TEST(SufficientData, rules)
 {
-    const struct {
+    const struct
+    {
         const char *text;
         bool good;
     } cases[] = {
@@ -31,12 +32,13 @@ TEST(SufficientData, rules)
         {"p\nNo caption for this day\nt\nl\n\n\ni", false},
         {"p\n\nt\nl\n\n\ni", false},
         {"p\nc\n\n\nhttp://full\n\ni", false}, // neither thumb nor picture
-        {"p\nc\nt\n\n\n\ni", false},           // neither picture nor full size
+        {"p\nc\nt\n\n\n\ni", false}, // neither picture nor full size
         {"p\nc\nt\n\nhttp://full\n\ni", true},
         {"p\nc\n\nl\n\n\ni", true},
         {"p\nc\nt\nl\nftp://full\n\ni", false},
         {"p\nc\nt\nl\n /relative\n\ni", false},
     };
+
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
         EXPECT_EQ(sufficientData(lines(c.text)), c.good);
@@ -45,17 +47,23 @@ TEST(SufficientData, rules)
 
 TEST(PictureLink, fullSizeUnlessTooHeavy)
 {
-    const struct {
+    const struct
+    {
         const char *values;
         const char *full;
         const char *chosen;
     } cases[] = {
-        {"4000,3000,5.2", "http://full", "normal"}, {"4000,3000,2.5", "http://full", "http://full"},
-        {"4000,3000,3.0", "http://full", "http://full"}, {"4000,3000,heavy", "http://full", "http://full"},
-        {"4000,3000,4MB", "http://full", "normal"}, {"4000,3000", "http://full", "http://full"},
-        {"", "http://full", "http://full"}, {"4000,3000,2.5", "", "normal"},
+        {"4000,3000,5.2", "http://full", "normal"},
+        {"4000,3000,2.5", "http://full", "http://full"},
+        {"4000,3000,3.0", "http://full", "http://full"},
+        {"4000,3000,heavy", "http://full", "http://full"},
+        {"4000,3000,4MB", "http://full", "normal"},
+        {"4000,3000", "http://full", "http://full"},
+        {"", "http://full", "http://full"},
+        {"4000,3000,2.5", "", "normal"},
         {"1,2, 3.1 ,9", "http://full", "normal"},
     };
+
     for (const auto &c : cases) {
         SCOPED_TRACE(c.values);
         EXPECT_EQ(chosenPictureLink({QStringLiteral("p"), QStringLiteral("c"), QStringLiteral("t"),
@@ -80,9 +88,11 @@ TEST(Requests, addresses)
     const QString day = QStringLiteral("7/4/2011");
     EXPECT_EQ(urls.sources(), QStringLiteral("http://host/base/defs/getSources.irev"));
     EXPECT_EQ(urls.all(s, day),
-              QStringLiteral("http://host/base/defs/moravel.irev?option=all&source=Wiki&date=7%2F4%2F2011"));
+              QStringLiteral(
+                  "http://host/base/defs/moravel.irev?option=all&source=Wiki&date=7%2F4%2F2011"));
     EXPECT_EQ(urls.refreshAll(s, day), urls.all(s, day) + QStringLiteral("&refresh=true"));
-    const QString look = QStringLiteral("http://host/base/defs/moravel.irev?option=%1&source=Wiki&date=7/4/2011");
+    const QString look =
+        QStringLiteral("http://host/base/defs/moravel.irev?option=%1&source=Wiki&date=7/4/2011");
     EXPECT_EQ(urls.parent(s, day), look.arg(QStringLiteral("parent")));
     EXPECT_EQ(urls.thumb(s, day), look.arg(QStringLiteral("thumb")));
     EXPECT_EQ(urls.captionPlusText(s, day),
@@ -91,17 +101,19 @@ TEST(Requests, addresses)
 
 TEST(Requests, queryBecomesTheBody)
 {
-    const struct {
+    const struct
+    {
         const char *url;
         const char *target;
         const char *body;
     } cases[] = {
-        {"http://h/defs/moravel.irev?option=all&source=S&date=7%2F4%2F2011", "http://h/defs/moravel.irev",
-         "option=all&source=S&date=7%2F4%2F2011"},
+        {"http://h/defs/moravel.irev?option=all&source=S&date=7%2F4%2F2011",
+         "http://h/defs/moravel.irev", "option=all&source=S&date=7%2F4%2F2011"},
         {"http://h/defs/moravel.irev", "http://h/defs/moravel.ire", ""},
         {"http://h/x?source=\xC3\xA9", "http://h/x", "source=?"},
         {"http://h/a?b", "http://h/a", "b"},
     };
+
     for (const auto &c : cases) {
         SCOPED_TRACE(c.url);
         const FormPost post = formPost(QString::fromUtf8(c.url));
@@ -137,19 +149,30 @@ TEST(SourcesList, reading)
 TEST(DownloadTexts, kilobytes)
 {
     const QString s = QStringLiteral("Astro");
-    const struct {
+
+    const struct
+    {
         DownloadProgress progress;
         const char *status;
         const char *window;
     } cases[] = {
-        {{s, 0, 1'500'000}, "Downloading pic from Astro: 0 of 1464 KB", "Downloading pic from Astro: 0 of 1464 KB"},
-        {{s, 1'000'000, 1'500'000}, "Downloading pic from Astro: 976 of 1464 KB", "Downloading pic from Astro: 976 of 1464 KB"},
-        {{s, 1'500'000, 1'500'000}, "Downloading pic from Astro: 1464 of 1464 KB", "Saving pic from Astro..."},
+        {{s, 0, 1'500'000},
+         "Downloading pic from Astro: 0 of 1464 KB",
+         "Downloading pic from Astro: 0 of 1464 KB"},
+        {{s, 1'000'000, 1'500'000},
+         "Downloading pic from Astro: 976 of 1464 KB",
+         "Downloading pic from Astro: 976 of 1464 KB"},
+        {{s, 1'500'000, 1'500'000},
+         "Downloading pic from Astro: 1464 of 1464 KB",
+         "Saving pic from Astro..."},
         {{s, 10, 1023}, "Downloading pic from Astro: 0 of 0 KB", "Saving pic from Astro..."},
         {{s, 9'000'000, 2048}, "Downloading pic from Astro: 2 of 2 KB", "Saving pic from Astro..."},
         {{{}, 0, -1}, "Downloading pic from (null): 0 of 0 KB", "Saving pic from (null)..."},
-        {{QStringLiteral("%2"), 0, 4096}, "Downloading pic from %2: 0 of 4 KB", "Downloading pic from %2: 0 of 4 KB"},
+        {{QStringLiteral("%2"), 0, 4096},
+         "Downloading pic from %2: 0 of 4 KB",
+         "Downloading pic from %2: 0 of 4 KB"},
     };
+
     for (const auto &c : cases) {
         SCOPED_TRACE(c.status);
         EXPECT_EQ(downloadStatusText(c.progress), QString::fromLatin1(c.status));

@@ -3,6 +3,7 @@
 #include "World.h"
 
 #include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace moravel {
@@ -17,7 +18,8 @@ const QString Hint = QStringLiteral("Double-click any thumbnail to set as deskto
 
 QString body(const QString &source, const QString &day)
 {
-    return QStringLiteral("option=all&source=%1&date=%2").arg(source, QString(day).replace(u'/', QLatin1String("%2F")));
+    return QStringLiteral("option=all&source=%1&date=%2")
+        .arg(source, QString(day).replace(u'/', QLatin1String("%2F")));
 }
 
 TEST(Pass, fillsEveryCellAndKeepsEverything)
@@ -33,19 +35,26 @@ TEST(Pass, fillsEveryCellAndKeepsEverything)
         EXPECT_FALSE(cell.isSpinning());
         const QString name = Three[i] + QStringLiteral("-7-4-2011.jpg");
         EXPECT_EQ(TempHome::read(w.pictureFolder() + name), "IMG picture bytes");
-        EXPECT_EQ(TempHome::read(w.pictureFolder() + QLatin1String("thumbs/thumb-") + name), "IMG picture bytes");
+        EXPECT_EQ(TempHome::read(w.pictureFolder() + QLatin1String("thumbs/thumb-") + name),
+                  "IMG picture bytes");
     }
     EXPECT_EQ(w.records().size(), 3);
-    EXPECT_EQ(w.records()[0], QStringLiteral("20110704\tA\thttp://pic/thumb-A-7-4-2011.jpg\thttp://pic/A-7-4-2011.jpg\t"
-                                             "http://page/A-7-4-2011\tCaption A-7-4-2011\tInfo A-7-4-2011"));
-    EXPECT_EQ(w.http.posts(), (QStringList{body(Three[0], QStringLiteral("7/4/2011")), body(Three[1], QStringLiteral("7/4/2011")),
-                                           body(Three[2], QStringLiteral("7/4/2011"))}));
+    EXPECT_EQ(
+        w.records()[0],
+        QStringLiteral("20110704\tA\thttp://pic/thumb-A-7-4-2011.jpg\thttp://pic/A-7-4-2011.jpg\t"
+                       "http://page/A-7-4-2011\tCaption A-7-4-2011\tInfo A-7-4-2011"));
+    EXPECT_EQ(w.http.posts(),
+              (QStringList{body(Three[0], QStringLiteral("7/4/2011")),
+                           body(Three[1], QStringLiteral("7/4/2011")),
+                           body(Three[2], QStringLiteral("7/4/2011"))}));
     EXPECT_EQ(w.newPictures.size(), 3);
     EXPECT_EQ(w.newsChecks, 1);
     EXPECT_TRUE(w.alerts.shown.isEmpty());
     EXPECT_TRUE(w.statuses.contains(QStringLiteral("Looking for new pic from Long B...")));
     EXPECT_EQ(w.statuses.last(), Hint);
-    EXPECT_TRUE(QDir(w.pictureFolder()).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden).isEmpty());
+    EXPECT_TRUE(QDir(w.pictureFolder())
+                    .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
+                    .isEmpty());
 }
 
 TEST(Pass, oneRequestAtATimeHalfASecondApart)
@@ -79,8 +88,10 @@ TEST(Pass, storedDaysNeedNoRequest)
     w.picker.userChangeDate = true;
     w.service->thumbPass().forgetLastDataCheck();
     w.startPass();
-    EXPECT_EQ(w.http.posts().mid(3), (QStringList{body(Three[0], QStringLiteral("7/3/2011")), body(Three[1], QStringLiteral("7/3/2011")),
-                                                  body(Three[2], QStringLiteral("7/3/2011"))}));
+    EXPECT_EQ(w.http.posts().mid(3),
+              (QStringList{body(Three[0], QStringLiteral("7/3/2011")),
+                           body(Three[1], QStringLiteral("7/3/2011")),
+                           body(Three[2], QStringLiteral("7/3/2011"))}));
     const auto before = w.http.requests.size();
     EXPECT_EQ(before, requests * 2);
     w.picker.setDateValue(w.picker.maximumDate());
@@ -114,24 +125,31 @@ TEST(Pass, movesOnAtMidnightUnlessTheUserChoseADate)
         w.picker.userChangeDate = userChose;
         w.run(3610);
         EXPECT_EQ(w.picker.dateValue().date(), QDate(2011, 7, userChose ? 4 : 5));
-        EXPECT_EQ(w.cell(0).dateString(), userChose ? QStringLiteral("July 4, 2011") : QStringLiteral("July 5, 2011"));
+        EXPECT_EQ(w.cell(0).dateString(),
+                  userChose ? QStringLiteral("July 4, 2011") : QStringLiteral("July 5, 2011"));
     }
 }
 
 TEST(Pass, stepsBackAWeek)
 {
-    const struct {
+    const struct
+    {
         QTime time;
         int lastDay; // of June and July 2011, as days before the 4th of July
     } cases[] = {{QTime(9, 30), 6}, {QTime(0, 0), 7}};
+
     for (const auto &c : cases) {
         World w(QDateTime(QDate(2011, 7, 4), c.time));
         w.addSources({Three[0]});
-        w.data = [](const QString &, const QString &) { return FakeHttp::Answer{"Error: nothing"}; };
+        w.data = [](const QString &, const QString &) {
+            return FakeHttp::Answer{"Error: nothing"};
+        };
         w.startPass(30);
         QStringList wanted;
         for (int back = 0; back <= c.lastDay; ++back)
-            wanted.append(body(Three[0], QLocale::c().toString(QDate(2011, 7, 4).addDays(-back), QStringLiteral("M/d/yyyy"))));
+            wanted.append(body(Three[0],
+                               QLocale::c().toString(QDate(2011, 7, 4).addDays(-back),
+                                                     QStringLiteral("M/d/yyyy"))));
         EXPECT_EQ(w.http.posts(), wanted);
         EXPECT_TRUE(w.records().isEmpty());
         EXPECT_EQ(w.cell(0).imageView().size(), QSize(2, 2)); // the blank picture
@@ -145,7 +163,8 @@ TEST(Pass, fallsBackToTheLastDayWithAPicture)
     w.addSources(Three);
     w.data = [](const QString &source, const QString &day) {
         const bool has = source != u"B" || day == u"7/2/2011";
-        return FakeHttp::Answer{has ? World::goodAnswer(source, day) : QByteArray("p\nNo caption\nt\nl\n\n\ni")};
+        return FakeHttp::Answer{has ? World::goodAnswer(source, day)
+                                    : QByteArray("p\nNo caption\nt\nl\n\n\ni")};
     };
     w.startPass();
     EXPECT_EQ(w.cell(1).dateString(), QStringLiteral("July 2, 2011"));
@@ -213,7 +232,8 @@ TEST(Pass, badThumbShowsTheLargePictureOrTheBlank)
     World w;
     w.addSources(Three);
     w.file = [](const QString &link) {
-        return link.contains(u"thumb-") ? FakeHttp::Answer{"<html>404</html>"} : FakeHttp::Answer{"IMG"};
+        return link.contains(u"thumb-") ? FakeHttp::Answer{"<html>404</html>"}
+                                        : FakeHttp::Answer{"IMG"};
     };
     w.startPass();
     EXPECT_EQ(w.cell(0).imageView().size(), QSize(2, 2));
@@ -238,7 +258,8 @@ TEST(Pass, refreshDropsTheRecordAndAsksAnew)
     EXPECT_TRUE(w.cell(1).isSpinning());
     EXPECT_TRUE(w.cell(1).picPath().isEmpty());
     w.run(10);
-    EXPECT_EQ(w.http.posts().last(), body(Three[1], QStringLiteral("7/4/2011")) + QStringLiteral("&refresh=true"));
+    EXPECT_EQ(w.http.posts().last(),
+              body(Three[1], QStringLiteral("7/4/2011")) + QStringLiteral("&refresh=true"));
     EXPECT_EQ(w.cell(1).captionField(), QStringLiteral("New caption B-7-4-2011"));
     EXPECT_EQ(w.records().size(), 3);
 }
@@ -260,7 +281,8 @@ TEST(Pass, deletedAndLinklessRecordsComeFromTheStore)
 
 TEST(Downloads, nothingHalfAndNothingStrange)
 {
-    const struct {
+    const struct
+    {
         const char *link;
         FakeHttp::Answer answer;
         const char *file; // what then lies in the Picture folder
@@ -280,14 +302,18 @@ TEST(Downloads, nothingHalfAndNothingStrange)
         {"http://pic/", {"IMG"}, ""},
         {"file:///etc/x.jpg", {"IMG"}, ""},
     };
+
     for (const auto &c : cases) {
         SCOPED_TRACE(c.link);
         World w;
         w.addSources({Three[0]});
         w.data = [&](const QString &, const QString &) {
-            return FakeHttp::Answer{QByteArray("http://page\nCaption\nhttp://pic/t.jpg\n") + c.link + "\n\n\nInfo"};
+            return FakeHttp::Answer{QByteArray("http://page\nCaption\nhttp://pic/t.jpg\n") + c.link
+                                    + "\n\n\nInfo"};
         };
-        w.file = [&](const QString &link) { return link.contains(u"t.jpg") ? FakeHttp::Answer{"IMG"} : c.answer; };
+        w.file = [&](const QString &link) {
+            return link.contains(u"t.jpg") ? FakeHttp::Answer{"IMG"} : c.answer;
+        };
         w.startPass(30);
         const QStringList files = QDir(w.pictureFolder()).entryList(QDir::Files | QDir::Hidden);
         EXPECT_EQ(files, *c.file ? QStringList{QString::fromLatin1(c.file)} : QStringList());
@@ -307,8 +333,12 @@ TEST(Downloads, hiddenCellsAreSkippedAndQuittingLeavesNothing)
     };
     w.startPass(30);
     EXPECT_TRUE(w.service->downloads().isActive());
-    EXPECT_EQ(w.service->downloads().downloadPath(), w.pictureFolder() + QStringLiteral("C-7-4-2011.jpg"));
-    EXPECT_EQ(QDir(w.pictureFolder()).entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden).size(), 2);
+    EXPECT_EQ(w.service->downloads().downloadPath(),
+              w.pictureFolder() + QStringLiteral("C-7-4-2011.jpg"));
+    EXPECT_EQ(QDir(w.pictureFolder())
+                  .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
+                  .size(),
+              2);
     w.service->downloads().cancelAll();
     EXPECT_TRUE(QDir(w.pictureFolder()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
@@ -330,7 +360,8 @@ TEST(Sources, keptForAStartWithoutNetwork)
     EXPECT_EQ(ask({"\xFF\xFE\t\xFF"}).size(), 2);
     EXPECT_EQ(ask({"Long C\tC"}).size(), 1);
     EXPECT_EQ(done, 6);
-    EXPECT_EQ(TempHome::read(w.home.path(QStringLiteral("data/Moravel/Moravel-Sources.txt"))), "Long C\tC");
+    EXPECT_EQ(TempHome::read(w.home.path(QStringLiteral("data/Moravel/Moravel-Sources.txt"))),
+              "Long C\tC");
 }
 
 } // namespace

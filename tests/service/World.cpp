@@ -8,12 +8,11 @@ namespace moravel::testing {
 namespace {
 
 // The private folders of a test stand in for the user's.
-class HomeFiles : public PosixFiles {
+class HomeFiles : public PosixFiles
+{
 public:
-    explicit HomeFiles(const TempHome &home)
-        : m_home(home)
-    {
-    }
+    explicit HomeFiles(const TempHome &home) : m_home(home) { }
+
     StandardFolders standardFolders() const override
     {
         return {m_home.path(QStringLiteral("Pictures")), m_home.path(QStringLiteral("data"))};
@@ -50,9 +49,10 @@ World::World(const QDateTime &start)
     };
     file = [](const QString &) { return FakeHttp::Answer{"IMG picture bytes"}; };
     http.answer = [this](const HttpRequest &request) { return serve(request); };
-    service = std::make_unique<PictureService>(
-        ServiceContext{platform, dates, picker, cells, names, folders, records_, updates, links, ports},
-        QStringLiteral("http://service/potd"));
+    service =
+        std::make_unique<PictureService>(ServiceContext{platform, dates, picker, cells, names,
+                                                        folders, records_, updates, links, ports},
+                                         QStringLiteral("http://service/potd"));
 }
 
 void World::addSources(const QStringList &shortNames)
@@ -83,7 +83,8 @@ QStringList World::records() const
 QByteArray World::goodAnswer(const QString &source, const QString &day)
 {
     const QString id = source + u'-' + QString(day).replace(u'/', u'-');
-    return QStringLiteral("http://page/%1\nCaption %1\nhttp://pic/thumb-%1.jpg\nhttp://pic/%1.jpg\n\n\nInfo %1")
+    return QStringLiteral("http://page/%1\nCaption "
+                          "%1\nhttp://pic/thumb-%1.jpg\nhttp://pic/%1.jpg\n\n\nInfo %1")
         .arg(id)
         .toUtf8();
 }

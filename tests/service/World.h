@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/linux/PosixFiles.h"
-#include "service/PictureService.h"
-#include "store/LegacyCaptions.h"
 #include "support/FakeHttp.h"
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
 #include "support/FakePlatform.h"
 #include "support/TempHome.h"
 
+#include "platform/linux/PosixFiles.h"
+#include "service/PictureService.h"
+#include "store/LegacyCaptions.h"
+
 namespace moravel::testing {
 
 /// The whole service client on a real disk, a virtual clock and a service that the test plays.
-class World {
+class World
+{
 public:
     explicit World(const QDateTime &start = QDateTime(QDate(2011, 7, 4), QTime(9, 30)));
 
@@ -27,8 +29,11 @@ public:
     void run(double seconds);
 
     ThumbView &cell(int index) { return cells.at(index); }
+
     QString pictureFolder() const { return home.path(QStringLiteral("Pictures/Moravel/")); }
+
     QString dataFile() const { return home.path(QStringLiteral("data/Moravel/Moravel2.txt")); }
+
     QStringList records() const;
 
     /// A sufficient answer for a source and Short date ("7/4/2011").

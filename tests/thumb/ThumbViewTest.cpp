@@ -2,6 +2,7 @@
 #include "thumb/ThumbCells.h"
 
 #include <QSignalSpy>
+
 #include <gtest/gtest.h>
 
 namespace moravel {
@@ -14,37 +15,50 @@ QImage picture(int width)
     return QImage(width, 1, QImage::Format_RGB32);
 }
 
-class CellTest : public ::testing::Test {
+class CellTest : public ::testing::Test
+{
 protected:
     ThumbCommands commands()
     {
         const auto note = [this](const char *name) {
-            return [this, name](ThumbView &cell) { done.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(cell.tag())); };
+            return [this, name](ThumbView &cell) {
+                done.append(QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(cell.tag()));
+            };
         };
-        return {note("setAsDesktop"), note("showLargePic"), note("showInFinder"), note("refreshData"),
-                note("refreshCaption"), {}, {}, {}};
+        return {note("setAsDesktop"),
+                note("showLargePic"),
+                note("showInFinder"),
+                note("refreshData"),
+                note("refreshCaption"),
+                {},
+                {},
+                {}};
     }
+
     void SetUp() override
     {
         cells.createSpecialCells(Now);
         cells.addThumbView(QStringLiteral("Long A"), QStringLiteral("A"), Now);
         cells.addThumbView(QStringLiteral("Long B"), QStringLiteral("B"), Now);
     }
+
     QStringList done;
     ThumbCells cells{{picture(1), picture(2), picture(3)}, commands()};
 };
 
 TEST_F(CellTest, buttonsFollowTheLink)
 {
-    const struct {
+    const struct
+    {
         int tag;
         const char *url;
         bool shown;
         bool refresh;
     } cases[] = {
-        {1000, "http://x", true, true}, {1000, "", false, false}, {1000, "DELETED", false, false},
+        {1000, "http://x", true, true},   {1000, "", false, false}, {1000, "DELETED", false, false},
         {99, "/home/x.jpg", true, false}, {99, "", false, false},
     };
+
     for (const auto &c : cases) {
         ThumbView &cell = *cells.thumbForTag(c.tag);
         cell.startSpinner();
@@ -71,7 +85,9 @@ TEST_F(CellTest, onlyDoubleClicksAct)
     grid.setCaptionField(QStringLiteral("Looking for new pic..."));
     grid.refreshCaption(2);
     grid.showThumbLarge();
-    EXPECT_EQ(done.join(u','), QStringLiteral("setAsDesktop 1001,showLargePic 99,refreshCaption 1001,showLargePic 1001"));
+    EXPECT_EQ(
+        done.join(u','),
+        QStringLiteral("setAsDesktop 1001,showLargePic 99,refreshCaption 1001,showLargePic 1001"));
 }
 
 TEST_F(CellTest, captionFieldAndCaptionAreTwoThings)
@@ -99,12 +115,14 @@ TEST_F(CellTest, foreignDesktopIsEmptied)
 
 TEST_F(CellTest, toolTips)
 {
-    EXPECT_EQ(cells.desktopThumb().toolTips().clicker, QStringLiteral("Double-click to set as desktop."));
+    EXPECT_EQ(cells.desktopThumb().toolTips().clicker,
+              QStringLiteral("Double-click to set as desktop."));
     cells.desktopThumb().showToolTips();
     cells.at(0).showToolTips();
     EXPECT_TRUE(cells.desktopThumb().toolTips().clicker.isEmpty());
     EXPECT_EQ(cells.at(0).toolTips().clicker, QStringLiteral("Double-click to set as desktop."));
-    EXPECT_EQ(cells.at(0).toolTips().refreshButton, QStringLiteral("Refresh the data for this pic."));
+    EXPECT_EQ(cells.at(0).toolTips().refreshButton,
+              QStringLiteral("Refresh the data for this pic."));
     cells.at(0).hideToolTips();
     EXPECT_TRUE(cells.at(0).toolTips().refreshButton.isEmpty());
 }
@@ -139,7 +157,9 @@ TEST_F(CellTest, summaries)
     cell.setThumbPath(QStringLiteral("t"));
     cell.setPicPath(QStringLiteral("p"));
     cell.setParentPath(QStringLiteral("q"));
-    EXPECT_EQ(cell.description(), QStringLiteral("1000: Long A (A) - July 4, 2011\nt\np\nq\nA %1 caption\nNot used as desktop"));
+    EXPECT_EQ(cell.description(),
+              QStringLiteral(
+                  "1000: Long A (A) - July 4, 2011\nt\np\nq\nA %1 caption\nNot used as desktop"));
     EXPECT_EQ(cell.debugInfo(), QStringLiteral("Long A - July 4, 2011\n\tt\n\tp\n\tq\n"));
 }
 

@@ -17,7 +17,7 @@ struct LunarAspect
     double brightLimb; ///< Position angle of the middle of the bright limb.
     double axis; ///< Position angle of the Moon's north pole.
     double subEarthLongitude; ///< Optical libration: what stands in the middle of the disc, east
-                              ///< positive.
+        ///< positive.
     double subEarthLatitude;
 };
 
