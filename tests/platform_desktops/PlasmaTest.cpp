@@ -217,13 +217,13 @@ TEST_F(Plasma, setsReadsBackAndSpellsARewrittenFileAnew)
 TEST_F(Plasma, tellsWhatFailedAndWhere)
 {
     const QString path = m_home.write(QStringLiteral("a.png"), "one");
-    EXPECT_EQ(set(path + u'x', m_screen), m_screen + u"/The picture is not a file.");
+    EXPECT_EQ(set(path + u'x', m_screen), m_screen + QLatin1String("/The picture is not a file."));
     EXPECT_EQ(set(path, QStringLiteral("gone")), u"gone/The screen is not connected.");
     m_shell.isDeaf = true;
     EXPECT_EQ(set(path, m_screen),
-              m_screen + u"/The desktop did not keep the picture that it was given.");
+              m_screen + QLatin1String("/The desktop did not keep the picture that it was given."));
     m_shell.error = QStringLiteral("Widgets are locked\nbacktrace");
-    EXPECT_EQ(set(path, m_screen), m_screen + u"/Widgets are locked");
+    EXPECT_EQ(set(path, m_screen), m_screen + QLatin1String("/Widgets are locked"));
     EXPECT_EQ(url(), u"file://localhost/slides/");
 }
 

@@ -131,7 +131,7 @@ void FileManagerPictures::check()
     startCommand();
 }
 
-void FileManagerPictures::finish(const QString &failure)
+void FileManagerPictures::finish(QString failure)
 {
     m_deadline.stop();
     const Job job = std::move(m_jobs.front());

@@ -49,7 +49,7 @@ private:
     void startCommand();
     void onEnded();
     void check();
-    void finish(const QString &failure);
+    void finish(QString failure);
     void refresh();
     QString spelling(const QString &path) const;
 

@@ -32,6 +32,18 @@ void RootWatch::refresh()
 {
     for (auto &[name, property] : m_properties)
         property.value = x11::windowValue(m_display.connection.get(), m_display.screen->root, name);
+    while (x11::Reply<xcb_generic_event_t>(xcb_poll_for_event(m_display.connection.get()))) { }
+}
+
+void RootWatch::remove(const QByteArray &property)
+{
+    for (auto &[name, known] : m_properties) {
+        if (known.name != property)
+            continue;
+        known.value.reset();
+        xcb_delete_property(m_display.connection.get(), m_display.screen->root, name);
+        xcb_flush(m_display.connection.get());
+    }
 }
 
 std::optional<quint32> RootWatch::value(const QByteArray &property) const
@@ -46,12 +58,11 @@ std::optional<quint32> RootWatch::value(const QByteArray &property) const
 void RootWatch::readEvents()
 {
     xcb_connection_t *c = m_display.connection.get();
-    std::map<xcb_atom_t, Property>::iterator known;
     while (const x11::Reply<xcb_generic_event_t> event{xcb_poll_for_event(c)}) {
         if ((event->response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
             continue;
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event.get());
-        known = m_properties.find(change->atom);
+        const auto known = m_properties.find(change->atom);
         if (known == m_properties.end())
             continue;
         known->second.value = x11::windowValue(c, m_display.screen->root, change->atom);

@@ -24,9 +24,13 @@ public:
     /// The first 32-bit value of one of the followed properties.
     std::optional<quint32> value(const QByteArray &property) const;
 
-    /// Asks the server for the present values; for moments when an event may still be on its way.
+    /// Asks the server for the present values, and drops the news of all changes up to now.
     void refresh();
 
+    /// Removes a property from the root window.
+    void remove(const QByteArray &property);
+
+    /// A property was set, perhaps to the value that it had, or removed.
     std::function<void(const QByteArray &property)> onChanged;
 
 private:

@@ -19,7 +19,7 @@ X11Desktop::X11Desktop(Files &files, const QString &recordPath, std::unique_ptr<
 {
     m_worker.setMaxThreadCount(1);
     m_worker.setExpiryTimeout(1000);
-    m_root->onChanged = [this](const QByteArray &) { lookWhoseItIs(); };
+    m_root->onChanged = [this](const QByteArray &property) { onRootChanged(property); };
     lookWhoseItIs();
     if (!m_root->value(RootPixmapProperty))
         repaint();
@@ -35,10 +35,18 @@ QList<QByteArray> X11Desktop::rootProperties()
     return {RootPixmapProperty, OwnPixmapProperty};
 }
 
-void X11Desktop::lookWhoseItIs()
+void X11Desktop::onRootChanged(const QByteArray &property)
 {
     if (m_running) // the worker's own change arrives before its result
         return;
+    // Another setter. Some paint into the pixmap that is there: the id alone does not tell.
+    if (property == RootPixmapProperty)
+        m_root->remove(OwnPixmapProperty);
+    lookWhoseItIs();
+}
+
+void X11Desktop::lookWhoseItIs()
+{
     const auto shown = m_root->value(RootPixmapProperty);
     m_isOurs = shown && *shown == m_record.owner && m_root->value(OwnPixmapProperty) == shown;
 }

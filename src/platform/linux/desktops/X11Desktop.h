@@ -47,6 +47,7 @@ private:
     };
 
     void lookWhoseItIs();
+    void onRootChanged(const QByteArray &property);
     void repaint();
     void start();
     void paint(const QMap<QString, PaintOrder> &orders, QList<Waiting> waiting);
