@@ -108,7 +108,10 @@ void MoravelAppDelegate::buildWindow()
         return true;
     };
     SourceGridPorts ports;
-    ports.startPass = [this](double seconds) { m_service.thumbPass().restart(seconds); };
+    ports.startPass = [this](double seconds) {
+        if (m_cells.count() > 0) // without cells there is no pass, and nothing to say of it
+            m_service.thumbPass().restart(seconds);
+    };
     ports.retry = [this] { askForSourcesAgain(); };
     if (m_desktop) {
         m_desktop->attachWindow(*m_window);

@@ -7,7 +7,7 @@
 #include "support/TempHome.h"
 
 #include "app/MoravelAppDelegate.h"
-#include "mainwindow/SourceGrid.h"
+#include "mainwindow/CaptionLabel.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/qt/QtDefaults.h"
 
@@ -145,6 +145,10 @@ TEST_F(AppTest, asksAgainWhileTheServiceIsSilent)
         });
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(app.delegate.cells().count(), 0);
+    const auto *status
+        = app.delegate.window().findChild<CaptionLabel *>(QStringLiteral("statusBar"));
+    ASSERT_TRUE(status);
+    EXPECT_EQ(status->text(), QString()); // nothing of thumbnails that are not there
     app.down = false;
     app.run(60);
     EXPECT_EQ(app.delegate.cells().count(), 2);
