@@ -34,6 +34,16 @@ QRect centred(QSize part, QSize whole)
     return {QPoint((whole.width() - part.width()) / 2, (whole.height() - part.height()) / 2), part};
 }
 
+/// The JPEG decoder shrinks a part while it decodes, several times faster and in a fraction of the memory,
+/// only where the part lies on its blocks of 8 pixels. In a large picture the difference is not seen.
+QRect onBlocks(const QRect &part)
+{
+    if (part.width() < 512 || part.height() < 512)
+        return part;
+    const auto down = [](int number) { return number & ~7; };
+    return {down(part.x()), down(part.y()), down(part.width()), down(part.height())};
+}
+
 bool isPictureFormat(const QByteArray &format)
 {
     static const QByteArrayList formats{"jpeg", "jpg", "png", "gif", "webp", "bmp", "tiff", "tif"};
@@ -61,9 +71,11 @@ QImage decodeForScreen(const QString &path, QSize screen, DesktopScaling scaling
         placePicture(size, sideways ? screen.transposed() : screen, scaling);
     if (placement.part.isEmpty())
         return {};
+    const bool scaled = placement.shown != placement.part;
+    const QRect part = centred(placement.part, size);
     if (placement.part != size)
-        reader.setClipRect(centred(placement.part, size));
-    if (placement.shown != placement.part)
+        reader.setClipRect(scaled ? onBlocks(part) : part);
+    if (scaled)
         reader.setScaledSize(placement.shown);
     QImage image = reader.read();
     if (image.colorSpace().isValid() && image.colorSpace() != QColorSpace(QColorSpace::SRgb))

@@ -71,9 +71,10 @@ XfceDesktop::XfceDesktop(std::unique_ptr<RootWatch> root)
             onScreensChanged();
     })
 {
-    m_bus.connect(service(), objectPath(), service(), QStringLiteral("PropertyChanged"), this,
+    // By path and interface: a rule on the service's name misses what it tells right after its start.
+    m_bus.connect(QString(), objectPath(), service(), QStringLiteral("PropertyChanged"), this,
                   SLOT(onPropertyChanged(QString, QString, QDBusVariant)));
-    m_bus.connect(service(), objectPath(), service(), QStringLiteral("PropertyRemoved"), this,
+    m_bus.connect(QString(), objectPath(), service(), QStringLiteral("PropertyRemoved"), this,
                   SLOT(onPropertyRemoved(QString, QString)));
     m_services.setConnection(m_bus);
     m_services.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
@@ -161,13 +162,16 @@ void XfceDesktop::setDesktopImageUrl(const QString &url, const QString &screen,
             call("SetProperty",
                  {channel(), change.property, QVariant::fromValue(QDBusVariant(change.value))});
         auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-        connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, setting] {
-            watcher->deleteLater();
-            if (watcher->isError() && setting->error.isEmpty())
-                setting->error = watcher->error().message();
-            if (--setting->unanswered == 0)
-                verify(setting);
-        });
+        connect(watcher, &QDBusPendingCallWatcher::finished, this,
+                [this, watcher, setting, change] {
+                    watcher->deleteLater();
+                    if (watcher->isError() && setting->error.isEmpty())
+                        setting->error = watcher->error().message();
+                    if (!watcher->isError())
+                        m_properties[change.property] = change.value;
+                    if (--setting->unanswered == 0)
+                        verify(setting);
+                });
     }
     if (changes.isEmpty())
         verify(setting);
