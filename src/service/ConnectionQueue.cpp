@@ -45,9 +45,9 @@ ConnectionQueue::ConnectionQueue(HttpClient &http, MainLoop &loop, const Service
     : m_http(http), m_loop(loop), m_ports(ports)
 { }
 
-void ConnectionQueue::setProcessMethod(const QString &name, ProcessMethod method)
+void ConnectionQueue::setProcessMethod(const QString &name, const ProcessMethod &method)
 {
-    m_processMethods.insert(name, std::move(method));
+    m_processMethods.insert(name, method);
 }
 
 void ConnectionQueue::addConnectionToQueue(const QString &url, ThumbView &cell,

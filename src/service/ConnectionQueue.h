@@ -41,7 +41,7 @@ public:
     ConnectionQueue(HttpClient &http, MainLoop &loop, const ServicePorts &ports);
 
     /// Enters the operation that answers with @p name are handed to.
-    void setProcessMethod(const QString &name, ProcessMethod method);
+    void setProcessMethod(const QString &name, const ProcessMethod &method);
 
     void addConnectionToQueue(const QString &url, ThumbView &cell, const QString &method);
     void checkConnectionQueue();

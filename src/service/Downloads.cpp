@@ -56,7 +56,7 @@ bool Downloads::isDownloading(const QString &path) const
 QString Downloads::largePicFilePathForThumb(ThumbView &cell)
 {
     const QString link = removeDoubleDomain(cell.picPath());
-    const QString path = m_context.links.picLinkToPath(link, false, false);
+    QString path = m_context.links.picLinkToPath(link, false, false);
     if (path.isEmpty() || m_context.platform.files.exists(path))
         return path;
     if (!isDownloading(path))

@@ -110,7 +110,7 @@ void ThumbPass::refreshDataForThumb(ThumbView &cell, const ServiceUrls &urls)
     m_queue.addConnectionToQueue(urls.refreshAll(source, day), cell, ProcessThumbData);
 }
 
-void ThumbPass::emptyCell(ThumbView &cell)
+void ThumbPass::emptyCell(ThumbView &cell) const
 {
     cell.showCaption({});
     cell.blankImage();
@@ -124,7 +124,7 @@ void ThumbPass::emptyCell(ThumbView &cell)
         window->showLargePic(cell);
 }
 
-void ThumbPass::clearThumbs()
+void ThumbPass::clearThumbs() const
 {
     for (const auto &cell : m_context.cells.thumbViews()) {
         cell->showDate({});

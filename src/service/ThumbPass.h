@@ -29,13 +29,13 @@ public:
     void refreshDataForThumb(ThumbView &cell, const ServiceUrls &urls);
 
     /// Empties every cell.
-    void clearThumbs();
+    void clearThumbs() const;
 
 private:
     bool isTooEarly() const;
     QString rolledOverDay();
     void endPass();
-    void emptyCell(ThumbView &cell);
+    void emptyCell(ThumbView &cell) const;
 
     const ServiceContext &m_context;
     PassState &m_state;
