@@ -4,6 +4,7 @@
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
 #include "support/FakePlatform.h"
+#include "support/HomeFiles.h"
 #include "support/TempHome.h"
 
 #include "app/MoravelAppDelegate.h"
@@ -22,20 +23,6 @@ namespace moravel {
 namespace {
 
 using namespace testing;
-
-class HomeFiles : public PosixFiles
-{
-public:
-    explicit HomeFiles(const TempHome &home) : m_home(home) { }
-
-    StandardFolders standardFolders() const override
-    {
-        return {m_home.path(QStringLiteral("Pictures")), m_home.path(QStringLiteral("data"))};
-    }
-
-private:
-    const TempHome &m_home;
-};
 
 class App
 {
@@ -145,8 +132,8 @@ TEST_F(AppTest, asksAgainWhileTheServiceIsSilent)
         });
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(app.delegate.cells().count(), 0);
-    const auto *status
-        = app.delegate.window().findChild<CaptionLabel *>(QStringLiteral("statusBar"));
+    const auto *status =
+        app.delegate.window().findChild<CaptionLabel *>(QStringLiteral("statusBar"));
     ASSERT_TRUE(status);
     EXPECT_EQ(status->text(), QString()); // nothing of thumbnails that are not there
     app.down = false;

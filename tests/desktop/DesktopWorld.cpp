@@ -1,26 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
 
+#include "support/HomeFiles.h"
+
 #include <QFileInfo>
 
 namespace moravel::testing {
 
 namespace {
-
-// The private folders of a test stand in for the user's.
-class HomeFiles : public PosixFiles
-{
-public:
-    explicit HomeFiles(const TempHome &home) : m_home(home) { }
-
-    StandardFolders standardFolders() const override
-    {
-        return {m_home.path(QStringLiteral("Pictures")), m_home.path(QStringLiteral("data"))};
-    }
-
-private:
-    const TempHome &m_home;
-};
 
 QImage plain(QSize size, Qt::GlobalColor color)
 {

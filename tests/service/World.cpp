@@ -1,28 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
 
+#include "support/HomeFiles.h"
+
 #include <QUrlQuery>
 
 namespace moravel::testing {
-
-namespace {
-
-// The private folders of a test stand in for the user's.
-class HomeFiles : public PosixFiles
-{
-public:
-    explicit HomeFiles(const TempHome &home) : m_home(home) { }
-
-    StandardFolders standardFolders() const override
-    {
-        return {m_home.path(QStringLiteral("Pictures")), m_home.path(QStringLiteral("data"))};
-    }
-
-private:
-    const TempHome &m_home;
-};
-
-} // namespace
 
 World::World(const QDateTime &start)
     : loop(start)
