@@ -108,8 +108,15 @@ bool RecordFile::writeTextData(const QString &text)
 
 bool RecordFile::write(const QString &path, std::initializer_list<std::string_view> pieces)
 {
-    const auto written = m_files.writeAtomically(path, pieces);
-    return written || alertNotStored(written.error());
+    if (const auto written = m_files.writeAtomically(path, pieces); !written)
+        return alertNotStored(written.error());
+    // What was read was found to be UTF-8 and what was added was encoded here: no need to look again.
+    std::size_t size = 0;
+    for (const std::string_view piece : pieces)
+        size += piece.size();
+    if (const auto file = m_files.open(path); file && (*file)->bytes().size() == size)
+        m_validStamp = (*file)->stamp();
+    return true;
 }
 
 bool RecordFile::alertNotStored(const FileError &error)
