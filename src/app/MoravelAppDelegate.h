@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/DesktopSide.h"
+#include "app/LargePicSide.h"
 #include "app/Options.h"
 #include "app/ShareSide.h"
 #include "base/DatePicker.h"
@@ -45,6 +46,8 @@ public:
 
     const ThumbCells &cells() const { return m_cells; }
 
+    LargePic &largePic() { return m_largePic->largePic(); }
+
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
@@ -75,6 +78,7 @@ private:
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<SourceGrid> m_grid;
+    std::unique_ptr<LargePicSide> m_largePic;
     DelayedCallHandle m_askAgain;
 };
 

@@ -42,6 +42,9 @@ public:
     void shareFacebook(ThumbView &currentThumb);
     void shareTwitter(ThumbView &currentThumb);
     void shareEmail(ThumbView &currentThumb);
+
+    void openUrl(const QString &address) { m_setup.urls.open(address); }
+
     void bugReport();
     void releaseNotes();
 

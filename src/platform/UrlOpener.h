@@ -12,8 +12,8 @@ class UrlOpener
 public:
     virtual ~UrlOpener() = default;
 
-    /// Opens @p url, ASCII with percent escapes, of the scheme http, https or mailto. What cannot be opened
-    /// is logged and otherwise ignored.
+    /// Opens @p url of the scheme http, https or mailto; its percent escapes stay, and what an address
+    /// cannot hold is escaped. What cannot be opened is logged and otherwise ignored.
     virtual void open(const QString &url) = 0;
 };
 

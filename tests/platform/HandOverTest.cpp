@@ -34,9 +34,11 @@ TEST(QtUrlOpener, opensAddressesOfOtherProgramsUnchanged)
     for (const QString &url :
          {mail, QStringLiteral("HTTP://h/p?a=%3D%23;b"), QStringLiteral("file:///etc/passwd"),
           QStringLiteral("javascript:x"), QString(), QStringLiteral("/usr/bin/true"),
-          QStringLiteral("http://h/%zz")})
+          QString::fromUtf8("http://h/\xC3\xBC 5%")})
         QtUrlOpener().open(url);
-    EXPECT_EQ(recorder.opened, (QStringList{mail, QStringLiteral("http://h/p?a=%3D%23;b")}));
+    EXPECT_EQ(recorder.opened,
+              (QStringList{mail, QStringLiteral("http://h/p?a=%3D%23;b"),
+                           QStringLiteral("http://h/%C3%BC%205%25")}));
     for (const char *scheme : {"http", "mailto", "file", "javascript"})
         QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
 }

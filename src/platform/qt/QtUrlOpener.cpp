@@ -21,7 +21,7 @@ bool isForOtherPrograms(const QUrl &url)
 
 void QtUrlOpener::open(const QString &url)
 {
-    const QUrl address = QUrl::fromEncoded(url.toLatin1(), QUrl::StrictMode);
+    const QUrl address(url, QUrl::TolerantMode);
     if (!isForOtherPrograms(address) || !QDesktopServices::openUrl(address))
         qCInfo(lcQt) << "not opened:" << url.left(200) << address.errorString();
 }

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "app/LargePicSide.h"
+
+#include "mainwindow/CellWidget.h"
+#include "mainwindow/LargePicWindow.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace moravel {
+
+LargePicSide::LargePicSide(const ServiceContext &context, PictureService &service, ShareSide &share,
+                           DesktopSide *desktop)
+    : m_context(context)
+    , m_largePic({context.cells, context.platform.files, context.platform.images, context.folders,
+                  context.links},
+                 ports(service, share, desktop))
+{
+    share.largeWindow = [this]() -> QWidget * {
+        return m_largePic.isVisible() ? m_largePic.pic() : nullptr;
+    };
+    if (desktop)
+        desktop->setShowLargePic([this](ThumbView &cell) { m_largePic.showLargePic(cell, 1); });
+}
+
+LargePicPorts LargePicSide::ports(PictureService &service, ShareSide &share, DesktopSide *desktop)
+{
+    LargePicPorts ports;
+    ports.largePicFilePathForThumb = [&service](ThumbView &cell) {
+        return service.downloads().largePicFilePathForThumb(cell);
+    };
+    ports.isDownloading = [&service](const QString &path) {
+        return service.downloads().isDownloading(path);
+    };
+    ports.findPage = [this, &service](const ThumbView &cell,
+                                      std::function<void(const QString &)> done) {
+        service.pages().find(cell.shortSourceName(),
+                             m_context.dates.shortDateFromLocalDate(cell.dateString()),
+                             std::move(done));
+    };
+    ports.openUrl = [&share](const QString &address) { share.openUrl(address); };
+    ports.shareEmail = [&share](ThumbView &cell) { share.shareEmail(cell); };
+    ports.shareFacebook = [&share](ThumbView &cell) { share.shareFacebook(cell); };
+    ports.shareTwitter = [&share](ThumbView &cell) { share.shareTwitter(cell); };
+    if (desktop)
+        addDesktopPorts(ports, *desktop);
+    return ports;
+}
+
+void LargePicSide::addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) const
+{
+    DesktopManagement &management = desktop.management();
+    ports.currentDesktopPath = [&management] { return management.currentDesktopPath(); };
+    ports.showDesktopPrefs = [&management] { management.showDesktopPrefs(); };
+    ports.setDesktop = [&management, &loop = m_context.platform.loop](const QString &path) {
+        loop.inOrder([&management, path] { management.setDesktop(path); });
+    };
+    ports.revealFile = [&desktop](const QString &path) {
+        desktop.workspace().revealInFileManager(path);
+    };
+}
+
+void LargePicSide::attachWindow(MainWindow &window, ToolTips &toolTips)
+{
+    auto *item = new QAction(MainWindow::tr("Show &Large Picture"), &window);
+    item->setObjectName(QStringLiteral("largePicMenuItem"));
+    item->setShortcut(Qt::CTRL | Qt::Key_L);
+    QObject::connect(item, &QAction::triggered, &window, [this] {
+        ThumbView *cell = focusedCell();
+        m_largePic.showLargePic(cell ? *cell : m_context.cells.desktopThumb(), 1);
+    });
+    QMenu &menu = window.viewMenu();
+    menu.insertAction(menu.actions().value(0), item);
+    menu.insertSeparator(menu.actions().value(1));
+    toolTips.parentButton = [this](const QString &tip) { m_largePic.setParentToolTip(tip); };
+}
+
+} // namespace moravel
