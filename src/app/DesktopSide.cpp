@@ -53,7 +53,7 @@ void DesktopSide::fillServicePorts(PictureService &service)
         return m_service.sourceNames.value(name);
     };
     m_ports.pixelSize = [this](const QString &path, std::function<void(QSize)> done) {
-        m_service.platform.images.check(path, std::move(done));
+        m_service.platform.images.size(path, std::move(done));
     };
     m_ports.fileStamp = fileStamp;
 }
