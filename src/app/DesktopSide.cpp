@@ -2,6 +2,7 @@
 #include "app/DesktopSide.h"
 
 #include "app/Question.h"
+#include "app/RemoteActions.h"
 #include "service/PictureFields.h"
 
 #include <QApplication>
@@ -125,12 +126,8 @@ void DesktopSide::showIcon(const QImage &image)
 
 void DesktopSide::activate()
 {
-    if (!m_window)
-        return;
-    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    if (m_window)
+        bringToFront(*m_window);
 }
 
 } // namespace moravel
