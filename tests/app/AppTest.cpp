@@ -188,7 +188,10 @@ TEST(Options, commandLine)
     EXPECT_EQ(*parse("--sources|all")->sources, QStringList{QStringLiteral("all")});
     EXPECT_EQ(*parse("--sources=One, Two words")->sources,
               (QStringList{QStringLiteral("One"), QStringLiteral("Two words")}));
+    EXPECT_EQ(parse("--command=next")->command, QStringLiteral("next"));
+    EXPECT_EQ(parse("--command|hold")->action, Options::Action::Command);
     EXPECT_FALSE(parse("--sources"));
+    EXPECT_FALSE(parse("--command"));
     EXPECT_FALSE(parse("--frobnicate"));
     EXPECT_FALSE(parse("file.jpg"));
 }

@@ -26,6 +26,7 @@ public:
 
     void load(const QString &path, QSize box, std::function<void(QImage)> done) override;
     void check(const QString &path, std::function<void(QSize)> done) override;
+    void size(const QString &path, std::function<void(QSize)> done) override;
     bool isImageExtension(const QString &extension) const override;
     QImage resource(const QString &name) const override;
 
