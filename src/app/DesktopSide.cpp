@@ -62,7 +62,9 @@ void DesktopSide::fillServicePorts(PictureService &service)
 void DesktopSide::fillPlatformPorts()
 {
     m_ports.ask = [this](const DesktopQuestion &question, std::function<void(int)> answer) {
-        askQuestion(m_window, {question.title, question.text, question.buttons}, std::move(answer));
+        QWidget *asking = QApplication::activeWindow(); // where the command was given
+        askQuestion(asking ? asking : m_window, {question.title, question.text, question.buttons},
+                    std::move(answer));
     };
     m_ports.showNextChange = [this](const QString &text) {
         if (m_window)

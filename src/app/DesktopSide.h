@@ -41,6 +41,13 @@ public:
 
     GrowlAlert &growl() { return m_growl; }
 
+    Workspace &workspace() { return m_platform.workspace; }
+
+    void setShowLargePic(std::function<void(ThumbView &)> show)
+    {
+        m_ports.showLargePic = std::move(show);
+    }
+
 private:
     void fillServicePorts(PictureService &service);
     void fillPlatformPorts();

@@ -13,6 +13,7 @@ namespace {
 Q_LOGGING_CATEGORY(lcApp, "moravel.app")
 
 constexpr double AskAgainSeconds = 60; // for the sources, while none is known
+constexpr int DoubleClick = 2; // where the cell has counted the clicks already
 
 ThumbImages thumbImages(const Images &images)
 {
@@ -42,6 +43,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
     if (desktop)
         buildDesktop(*desktop);
+    m_largePic = std::make_unique<LargePicSide>(m_context, m_service, baseUrl, m_desktop.get());
+    m_ports.largePic = m_largePic.get();
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -70,9 +73,12 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
     ThumbCommands commands;
     commands.refreshDataForThumb =
         inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    commands.showLargePic = [this](ThumbView &cell) { // at once: it only looks
+        const bool isDesktop = cell.tag() == ThumbView::DesktopTag;
+        largePic().showLargePic(cell, isDesktop ? DoubleClick : 1);
+    };
     if (!withDesktop)
         return commands;
-    constexpr int DoubleClick = 2; // the cell has counted the clicks already
     commands.setAsDesktop = inTurn(
         [this](ThumbView &cell) { m_desktop->management().setAsDesktop(cell, DoubleClick); });
     commands.showInFinder =
@@ -121,6 +127,7 @@ void MoravelAppDelegate::buildWindow()
             m_desktop->management().rotation().scheduleRotateDesktop(seconds);
         };
     }
+    m_largePic->attachWindow(*m_window, *m_toolTips);
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
 }
@@ -152,6 +159,7 @@ void MoravelAppDelegate::sourcesAreKnown()
 {
     qCInfo(lcApp).noquote() << "sources known:" << m_sourceNames.size();
     m_grid->drawCheckboxesAndThumbs(m_sourceNames);
+    largePic().forgetCurrentThumb();
     if (m_sourceNames.isEmpty())
         m_askAgain = m_platform.loop.after(AskAgainSeconds, [this] { askForSourcesAgain(); });
     else

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/DesktopSide.h"
+#include "app/LargePicSide.h"
 #include "app/Options.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
@@ -48,6 +49,8 @@ public:
 
     const ThumbCells &cells() const { return m_cells; }
 
+    LargePic &largePic() { return m_largePic->largePic(); }
+
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
@@ -78,6 +81,7 @@ private:
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;
     std::unique_ptr<SourceGrid> m_grid;
+    std::unique_ptr<LargePicSide> m_largePic;
     DelayedCallHandle m_askAgain;
 };
 

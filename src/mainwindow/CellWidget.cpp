@@ -251,4 +251,13 @@ void CellWidget::paintEvent(QPaintEvent *)
     }
 }
 
+ThumbView *focusedCell()
+{
+    for (QWidget *widget = QApplication::focusWidget(); widget; widget = widget->parentWidget()) {
+        if (const auto *cell = qobject_cast<CellWidget *>(widget))
+            return &cell->view();
+    }
+    return nullptr;
+}
+
 } // namespace moravel

@@ -29,6 +29,8 @@ public:
     /// Gives the keyboard's focus to the picture.
     void takeFocus();
 
+    ThumbView &view() const { return m_view; }
+
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -62,5 +64,8 @@ private:
     CaptionLabel *m_dateField = nullptr;
     CaptionLabel *m_captionField = nullptr;
 };
+
+/// Returns the cell that has the keyboard's focus, or null.
+ThumbView *focusedCell();
 
 } // namespace moravel

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Developer's tool: fills the main window with made-up cells and saves pictures of its states.
-//   gallery FOLDER            (QT_QPA_PLATFORM, QT_SCALE_FACTOR, LANG as wanted)
+//   gallery FOLDER [large]    (only the large picture window; QT_QPA_PLATFORM, QT_SCALE_FACTOR, LANG as wanted)
+#include "Gallery.h"
+
 #include "WindowFixture.h"
 
 #include "mainwindow/CellMenu.h"
@@ -19,7 +21,7 @@
 using namespace moravel;
 using namespace moravel::testing;
 
-namespace {
+namespace moravel::testing {
 
 QImage picture(QSize size, int hue)
 {
@@ -46,6 +48,16 @@ QImage picture(QSize size, int hue)
     }
     return image;
 }
+
+void save(QWidget &window, const QString &name)
+{
+    QTest::qWait(150);
+    window.grab().save(name + QStringLiteral(".png"));
+}
+
+} // namespace moravel::testing
+
+namespace {
 
 const char *const Names[] = {"Astronomy Picture of the Day",
                              "Bing",
@@ -112,12 +124,6 @@ ThumbCommands commands()
     return {nothing, nothing, nothing, nothing, nothing, nothing, nothing, nothing};
 }
 
-void save(QWidget &window, const QString &name)
-{
-    QTest::qWait(150);
-    window.grab().save(name + QStringLiteral(".png"));
-}
-
 /// The calendar, the menu of the sources and the context menu of a cell.
 void savePopups(WindowFixture &w, const QString &prefix)
 {
@@ -180,9 +186,15 @@ int main(int argc, char **argv)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     const QString folder = app.arguments().value(1, QStringLiteral("."));
     QDir().mkpath(folder);
+    if (app.arguments().value(2) == u"large") {
+        shootLargePic(folder + QStringLiteral("/"));
+        return 0;
+    }
     shoot(folder + QStringLiteral("/light-"));
+    shootLargePic(folder + QStringLiteral("/light-"));
     app.setPalette(darkPalette());
     shoot(folder + QStringLiteral("/dark-"));
+    shootLargePic(folder + QStringLiteral("/dark-"));
     app.setPalette(app.style()->standardPalette());
     app.setLayoutDirection(Qt::RightToLeft);
     shoot(folder + QStringLiteral("/rtl-"));

@@ -287,6 +287,25 @@ TEST_F(QtImagesTest, AnswersEachCallOnceAndNoneWhenDestroyed)
     QCoreApplication::processEvents();
 }
 
+TEST_F(QtImagesTest, DecodesOnePictureAtATimeAndDropsWhatIsCancelled)
+{
+    const QString big = home.write(QStringLiteral("big.png"), encoded(noise({2000, 1500}), "png"));
+    const QString turned = home.write(QStringLiteral("turned.jpg"), turnedJpeg());
+    auto cancelled = images.decode(big, {500, 500}, [](const auto &) { FAIL(); });
+    cancelled.reset();
+    std::optional<moravel::DecodedPicture> last;
+    const auto kept =
+        images.decode(turned, {24, 1000}, [&](const auto &picture) { last = picture; });
+    MORAVEL_WAIT(last.has_value());
+    EXPECT_EQ(last->size, Size.transposed());
+    EXPECT_EQ(last->image.size(), QSize(24, 32));
+
+    auto brief = std::make_unique<QtImages>();
+    const auto late = brief->decode(big, {500, 500}, [](const auto &) { FAIL(); });
+    brief.reset(); // before its handles
+    QCoreApplication::processEvents();
+}
+
 TEST_F(QtImagesTest, KnowsPictureExtensions)
 {
     for (const char *known : {"jpg", "JPG", "Jpeg", "png", "gif", "webp", "bmp", "tif", "TIFF"})

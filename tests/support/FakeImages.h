@@ -22,6 +22,30 @@ public:
         });
     }
 
+    /// A picture of size(), decoded into the box.
+    DecodingHandle decode(const QString &path, QSize box,
+                          std::function<void(DecodedPicture)> done) override
+    {
+        struct Handle : Decoding
+        {
+            std::shared_ptr<int> alive = std::make_shared<int>();
+        };
+
+        auto handle = std::make_unique<Handle>();
+        ++decodings;
+        const std::weak_ptr<int> alive = handle->alive;
+        m_waiting.push_back([this, done, box, alive, ok = isPicture(path)] {
+            if (alive.expired())
+                return;
+            const bool large = size.width() > box.width() || size.height() > box.height();
+            QImage image(large ? size.scaled(box, Qt::KeepAspectRatio) : size,
+                         QImage::Format_RGB32);
+            image.fill(Qt::darkCyan);
+            done(ok ? DecodedPicture{image, size} : DecodedPicture());
+        });
+        return handle;
+    }
+
     void check(const QString &path, std::function<void(QSize)> done) override
     {
         m_waiting.push_back([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
@@ -44,6 +68,9 @@ public:
         image.fill(Qt::gray);
         return image;
     }
+
+    QSize size{4, 3}; ///< Of the pictures that decode() gives.
+    int decodings = 0;
 
     bool deliver()
     {

@@ -99,7 +99,7 @@ qint64 WatchedFile::readData(char *data, qint64 maxSize)
     return count;
 }
 
-QImage decodePicture(const QString &path, QSize box, const std::atomic<bool> &stop)
+DecodedPicture decodePicture(const QString &path, QSize box, const std::atomic<bool> &stop)
 {
     Picture picture(path, stop);
     if (!picture.isOfUsableSize() || box.isEmpty())
@@ -113,7 +113,7 @@ QImage decodePicture(const QString &path, QSize box, const std::atomic<bool> &st
         image.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                             : QImage::Format_RGB32);
-    return image;
+    return {image, picture.uprightSize()};
 }
 
 QSize announcedPictureSize(const QString &path, const std::atomic<bool> &stop)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Images.h"
+
 #include <QDeadlineTimer>
 #include <QFile>
 #include <QImage>
@@ -34,7 +36,7 @@ private:
 
 /// Decodes the picture at @p path, upright, in sRGB, scaled down to fit @p box. Null when it is
 /// none. For worker threads; @p stop makes it give up.
-QImage decodePicture(const QString &path, QSize box, const std::atomic<bool> &stop);
+DecodedPicture decodePicture(const QString &path, QSize box, const std::atomic<bool> &stop);
 
 /// The upright pixel size of the picture at @p path as its head tells, else empty. Decodes nothing.
 QSize announcedPictureSize(const QString &path, const std::atomic<bool> &stop);

@@ -51,6 +51,18 @@ void installFilterOnce()
     Q_UNUSED(installed)
 }
 
+/// Stops what is decoded for its owner, and drops its result.
+class Cancellable : public Decoding
+{
+public:
+    explicit Cancellable(std::shared_ptr<std::atomic<bool>> stop) : m_stop(std::move(stop)) { }
+
+    ~Cancellable() override { *m_stop = true; }
+
+private:
+    std::shared_ptr<std::atomic<bool>> m_stop;
+};
+
 } // namespace
 
 QtImages::QtImages()
@@ -59,24 +71,30 @@ QtImages::QtImages()
     installFilterOnce();
     QImageReader::setAllocationLimit(AllocationLimitMb);
     m_pool.setMaxThreadCount(Threads);
+    m_viewPool.setMaxThreadCount(1);
 }
 
 QtImages::~QtImages()
 {
     m_stop = true;
-    m_pool.clear();
-    m_pool.waitForDone();
+    for (const auto &[job, stop] : m_viewStops)
+        *stop = true;
+    for (QThreadPool *pool : {&m_pool, &m_viewPool}) {
+        pool->clear();
+        pool->waitForDone();
+    }
 }
 
 template <typename Result>
-void QtImages::run(std::function<Result()> work, std::function<void(Result)> done)
+void QtImages::run(QThreadPool &pool, std::function<Result()> work,
+                   std::function<void(Result)> done)
 {
     // The callback stays here: what it has captured must neither be used nor freed on a worker.
     const quint64 job = m_nextJob++;
     m_waiting.emplace(job, [done = std::move(done)](const std::any &result) {
         done(std::any_cast<const Result &>(result));
     });
-    m_pool.start([this, job, work = std::move(work)] {
+    pool.start([this, job, work = std::move(work)] {
         QMetaObject::invokeMethod(
             &m_mainThread, [this, job, result = std::any(work())] { finish(job, result); },
             Qt::QueuedConnection);
@@ -91,12 +109,32 @@ void QtImages::finish(quint64 job, const std::any &result)
 
 void QtImages::load(const QString &path, QSize box, std::function<void(QImage)> done)
 {
-    run<QImage>([this, path, box] { return decodePicture(path, box, m_stop); }, std::move(done));
+    run<QImage>(
+        m_pool, [this, path, box] { return decodePicture(path, box, m_stop).image; },
+        std::move(done));
+}
+
+DecodingHandle QtImages::decode(const QString &path, QSize box,
+                                std::function<void(DecodedPicture)> done)
+{
+    const auto stop = std::make_shared<std::atomic<bool>>(false);
+    const quint64 job = m_nextJob;
+    m_viewStops.emplace(job, stop);
+    run<DecodedPicture>(
+        m_viewPool,
+        [path, box, stop] { return *stop ? DecodedPicture() : decodePicture(path, box, *stop); },
+        [this, job, stop, done = std::move(done)](const DecodedPicture &picture) {
+            m_viewStops.erase(job);
+            if (!*stop)
+                done(picture);
+        });
+    return std::make_unique<Cancellable>(stop);
 }
 
 void QtImages::check(const QString &path, std::function<void(QSize)> done)
 {
-    run<QSize>([this, path] { return completePictureSize(path, m_stop); }, std::move(done));
+    run<QSize>(
+        m_pool, [this, path] { return completePictureSize(path, m_stop); }, std::move(done));
 }
 
 void QtImages::size(const QString &path, std::function<void(QSize)> done)

@@ -10,10 +10,11 @@
 #include <any>
 #include <atomic>
 #include <map>
+#include <memory>
 
 namespace moravel {
 
-/// Decodes pictures in two threads of its own. Reads JPEG, PNG, GIF, WebP, BMP and TIFF, told by
+/// Decodes pictures in three threads of its own, one of them for decode(). Reads JPEG, PNG, GIF, WebP, BMP and TIFF, told by
 /// their content.
 ///
 /// Raises Qt's limit on the memory of one picture and silences the decoders' own warnings, both for
@@ -25,6 +26,8 @@ public:
     ~QtImages() override;
 
     void load(const QString &path, QSize box, std::function<void(QImage)> done) override;
+    DecodingHandle decode(const QString &path, QSize box,
+                          std::function<void(DecodedPicture)> done) override;
     void check(const QString &path, std::function<void(QSize)> done) override;
     void size(const QString &path, std::function<void(QSize)> done) override;
     bool isImageExtension(const QString &extension) const override;
@@ -32,7 +35,7 @@ public:
 
 private:
     template <typename Result>
-    void run(std::function<Result()> work, std::function<void(Result)> done);
+    void run(QThreadPool &pool, std::function<Result()> work, std::function<void(Result)> done);
 
     void finish(quint64 job, const std::any &result);
 
@@ -42,6 +45,8 @@ private:
     std::atomic<bool> m_stop = false;
     mutable QHash<QString, QImage> m_resources;
     QThreadPool m_pool;
+    QThreadPool m_viewPool; ///< One thread, so that what a person waits for never queues.
+    std::map<quint64, std::shared_ptr<std::atomic<bool>>> m_viewStops; ///< Of decode(), until done.
 };
 
 } // namespace moravel

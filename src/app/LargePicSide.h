@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/DesktopSide.h"
+#include "mainwindow/LargePic.h"
+#include "mainwindow/ToolTips.h"
+#include "service/PictureService.h"
+
+namespace moravel {
+
+/// Ties the large picture window to the service client, the desktop side and the main window.
+class LargePicSide : public LargePicPort
+{
+public:
+    /// All references, and @p desktop if there is one, must outlive this object.
+    LargePicSide(const ServiceContext &context, PictureService &service, const QString &baseUrl,
+                 DesktopSide *desktop);
+
+    /// Offers the window's command in the View menu of the main window.
+    void attachWindow(MainWindow &window, ToolTips &toolTips);
+
+    LargePic &largePic() { return m_largePic; }
+
+    bool isVisible() const override { return m_largePic.isVisible(); }
+
+    QString currentLargePicPath() const override { return m_largePic.currentLargePicPath(); }
+
+    bool isShowing(const ThumbView &cell) const override
+    {
+        return m_largePic.currentThumb() == &cell;
+    }
+
+    void showLargePic(ThumbView &cell) override { m_largePic.showAgain(cell); }
+
+    void showProgress(std::optional<float> percent, const QString &text) override
+    {
+        m_largePic.showProgress(percent, text);
+    }
+
+    void hideProgress() override { m_largePic.hideProgress(); }
+
+    void hideCantShow() override { m_largePic.hideCantShow(); }
+
+    void displayPicFile(const QString &path) override { m_largePic.displayPicFile(path); }
+
+private:
+    LargePicPorts ports(PictureService &service, DesktopSide *desktop);
+    void addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) const;
+    void findPage(const ThumbView &cell, const std::function<void(const QString &)> &done) const;
+
+    ServiceContext m_context;
+    ServiceUrls m_urls;
+    HeldFetch m_fetch;
+    LargePic m_largePic;
+};
+
+} // namespace moravel

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/LargePicCommands.h"
+
+#include "mainwindow/Icons.h"
+#include "mainwindow/LargeImageView.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+
+namespace moravel {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("moravel::LargePicWindow", text);
+}
+
+QAction *make(QWidget *window, const char *title, const char *icon, const QList<QKeySequence> &keys,
+              const std::function<void()> &command)
+{
+    auto *action = new QAction(tr(title), window);
+    if (icon)
+        action->setIcon(themedIcon(QLatin1String(icon)));
+    action->setIconVisibleInMenu(false);
+    action->setShortcuts(keys);
+    action->setEnabled(bool(command));
+    if (command)
+        QObject::connect(action, &QAction::triggered, window, [command] { command(); });
+    window->addAction(action);
+    return action;
+}
+
+} // namespace
+
+LargePicActions::LargePicActions(QWidget *window, const LargePicCommands &commands,
+                                 LargeImageView &view, const std::function<void()> &fitWindow,
+                                 const std::function<void()> &closeWindow)
+{
+    const bool mirrored = window->isRightToLeft();
+    const int back = mirrored ? Qt::Key_Right : Qt::Key_Left;
+    const int forth = mirrored ? Qt::Key_Left : Qt::Key_Right;
+    previous = make(window, QT_TR_NOOP("&Previous Picture"), "previous-day", {back},
+                    commands.previousLargePic);
+    next = make(window, QT_TR_NOOP("&Next Picture"), "next-day", {forth}, commands.nextLargePic);
+    showParent = make(window, QT_TR_NOOP("&Original Page"), "web", {Qt::CTRL | Qt::Key_O},
+                      commands.showParent);
+    setDesktop = make(window, QT_TR_NOOP("Set as &Desktop"), "desktop", {Qt::CTRL | Qt::Key_D},
+                      commands.setDesktop);
+    showInFinder = make(window, QT_TR_NOOP("Show in &File Manager"), "folder",
+                        {Qt::CTRL | Qt::Key_R}, commands.showPicInFinder);
+    email = make(window, QT_TR_NOOP("Share by &E-mail"), "mail", {Qt::CTRL | Qt::Key_E},
+                 commands.shareEmail);
+    facebook =
+        make(window, QT_TR_NOOP("Share on Face&book"), "facebook", {}, commands.shareFacebook);
+    twitter = make(window, QT_TR_NOOP("Share on &Twitter"), "twitter", {}, commands.shareTwitter);
+    deletePic = make(window, QT_TR_NOOP("De&lete"), "delete", {Qt::Key_Delete}, commands.deletePic);
+    standardSize = make(window, QT_TR_NOOP("Fit &Window to Picture"), "zoom-window",
+                        {Qt::CTRL | Qt::Key_2}, fitWindow);
+    zoomIn = make(window, QT_TR_NOOP("Zoom &In"), nullptr,
+                  {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [&view] { view.zoomIn(); });
+    zoomOut = make(window, QT_TR_NOOP("Zoom O&ut"), nullptr, {Qt::CTRL | Qt::Key_Minus},
+                   [&view] { view.zoomOut(); });
+    zoomToFit = make(window, QT_TR_NOOP("&Zoom to Fit"), nullptr, {Qt::CTRL | Qt::Key_0},
+                     [&view] { view.zoomToFit(); });
+    actualSize = make(window, QT_TR_NOOP("&Actual Size"), nullptr, {Qt::CTRL | Qt::Key_1},
+                      [&view] { view.zoomToActualSize(); });
+    close = make(window, QT_TR_NOOP("&Close"), nullptr, {Qt::Key_Escape, Qt::CTRL | Qt::Key_W},
+                 closeWindow);
+}
+
+QMenu *LargePicActions::makeMenu(QWidget *parent) const
+{
+    auto *menu = new QMenu(parent);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    using Group = QList<QAction *>;
+    for (const Group &group :
+         {Group{previous, next}, Group{zoomIn, zoomOut, zoomToFit, actualSize, standardSize},
+          Group{showParent, setDesktop, showInFinder}, Group{email, facebook, twitter},
+          Group{deletePic, close}}) {
+        menu->addActions(group);
+        menu->addSeparator();
+    }
+    return menu;
+}
+
+} // namespace moravel

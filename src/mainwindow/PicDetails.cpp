@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "mainwindow/PicDetails.h"
+
+#include "mainwindow/CaptionLabel.h"
+#include "mainwindow/PicInfo.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+namespace moravel {
+
+namespace {
+
+constexpr int TypeSize = 13; // pixels
+
+} // namespace
+
+PicDetails::PicDetails(QWidget *parent) : QTextBrowser(parent)
+{
+    setObjectName(QStringLiteral("picDetails"));
+    setAccessibleName(tr("About this picture"));
+    setOpenLinks(false);
+    setUndoRedoEnabled(false);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    document()->setDocumentMargin(0);
+    QFont type(QStringLiteral("Helvetica"));
+    type.setPixelSize(TypeSize);
+    document()->setDefaultFont(type);
+    followPalette();
+    connect(this, &QTextBrowser::highlighted, this, [this](const QUrl &link) {
+        viewport()->setToolTip(plainToolTip(link.toDisplayString())); // where it leads
+    });
+}
+
+void PicDetails::showHtml(const QString &safeHtml)
+{
+    setHtml(infoDocument(safeHtml));
+    verticalScrollBar()->setValue(0);
+}
+
+void PicDetails::showText(const QString &text)
+{
+    setPlainText(text);
+    verticalScrollBar()->setValue(0);
+}
+
+QVariant PicDetails::loadResource(int, const QUrl &)
+{
+    return {};
+}
+
+void PicDetails::doSetSource(const QUrl &, QTextDocument::ResourceType)
+{ }
+
+void PicDetails::changeEvent(QEvent *event)
+{
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        followPalette();
+}
+
+void PicDetails::followPalette()
+{
+    viewport()->setAutoFillBackground(false); // the text stands on the window's own ground
+    QPalette own;
+    own.setColor(QPalette::Text, own.color(QPalette::WindowText));
+    setPalette(own);
+}
+
+} // namespace moravel

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "WindowFixture.h"
+#include "support/FakeImages.h"
+#include "support/HomeFiles.h"
+
+#include "mainwindow/LargePic.h"
+#include "mainwindow/LargePicWindow.h"
+
+#include <QSet>
+
+namespace moravel::testing {
+
+/// The large picture window on a private disk; its ports note what they are asked for.
+struct LargePicFixture
+{
+    explicit LargePicFixture(Images &pictures)
+        : cells(WindowFixture::images(), {})
+        , large({cells, files, pictures, folders, links}, ports())
+    {
+        cells.createSpecialCells({});
+        for (int i = 0; i < 3; ++i)
+            fill(cells.addThumbView(QStringLiteral("Source %1").arg(i),
+                                    QStringLiteral("s%1").arg(i), {}),
+                 QStringLiteral("http://x/%1.jpg").arg(i));
+    }
+
+    static void fill(ThumbView &cell, const QString &picture)
+    {
+        cell.showDate(QStringLiteral("July 4, 2011"));
+        cell.showCaption(QStringLiteral("Caption"));
+        cell.setInfoString(QStringLiteral("About_it"));
+        cell.setPicPath(picture);
+        cell.showThumbImage(WindowFixture::images().blank, QStringLiteral("http://x/t"));
+    }
+
+    /// Puts a picture file of @p bytes bytes where the link's picture belongs.
+    QString keep(const QString &name, int bytes = 2048) const
+    {
+        return home.write(QStringLiteral("Pictures/Moravel/") + name,
+                          QByteArray("IMG").leftJustified(bytes, ' '));
+    }
+
+    LargePicPorts ports()
+    {
+        const auto note = [this](const char *what) {
+            return [this, what](ThumbView &cell) {
+                calls += QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(cell.tag());
+            };
+        };
+        const auto notePath = [this](const char *what) {
+            return [this, what](const QString &path) { calls += QLatin1String(what) + path; };
+        };
+        LargePicPorts ports;
+        ports.currentDesktopPath = [this] { return desktopPath; };
+        ports.largePicFilePathForThumb = [this](ThumbView &cell) {
+            calls += QStringLiteral("download %1").arg(cell.tag());
+            return QString();
+        };
+        ports.isDownloading = [this](const QString &path) { return downloads.contains(path); };
+        ports.showDesktopPrefs = [this] { calls += QStringLiteral("prefs"); };
+        ports.setDesktop = notePath("desktop ");
+        ports.revealFile = notePath("reveal ");
+        ports.reloadDeletedPic = note("restore");
+        ports.refreshCaption = note("caption");
+        ports.deletePic = note("delete");
+        ports.shareEmail = note("email");
+        ports.findPage = [this](const ThumbView &, std::function<void(const QString &)> done) {
+            pageWanted = std::move(done);
+        };
+        ports.openUrl = notePath("open ");
+        return ports;
+    }
+
+    /// Finds a part of the window by its name.
+    template <typename T = QWidget>
+    T *find(const char *name) const
+    {
+        return large.pic()->findChild<T *>(QLatin1String(name));
+    }
+
+    TempHome home;
+    HomeFiles files{home};
+    FakeAlerts alerts;
+    Folders folders{files, alerts};
+    PictureLinks links{folders, files};
+    ThumbCells cells;
+    QString desktopPath;
+    QSet<QString> downloads;
+    QStringList calls;
+    std::function<void(const QString &)> pageWanted;
+    LargePic large;
+};
+
+} // namespace moravel::testing
