@@ -37,9 +37,10 @@ tl::expected<Options, QString> parseOptions(const QStringList &arguments)
             options.action = Options::Action::PrintHelp;
         } else if (name == u"--sources" || name == u"--command") {
             const bool inOne = arguments[i].contains(u'=');
-            if (!inOne && i + 1 >= arguments.size())
+            const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
+            if (value.isEmpty())
                 return tl::unexpected(missingValue(name));
-            take(options, name, inOne ? arguments[i].section(u'=', 1) : arguments[++i]);
+            take(options, name, value);
         } else {
             return tl::unexpected(QStringLiteral("unknown argument: %1").arg(arguments[i]));
         }

@@ -191,7 +191,7 @@ TEST(Options, commandLine)
     EXPECT_EQ(parse("--command=next")->command, QStringLiteral("next"));
     EXPECT_EQ(parse("--command|hold")->action, Options::Action::Command);
     EXPECT_FALSE(parse("--sources"));
-    EXPECT_FALSE(parse("--command"));
+    EXPECT_FALSE(parse("--command="));
     EXPECT_FALSE(parse("--frobnicate"));
     EXPECT_FALSE(parse("file.jpg"));
 }

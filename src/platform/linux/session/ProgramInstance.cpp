@@ -42,8 +42,8 @@ tl::expected<void, RemoteError> call(const QDBusConnection &bus, const QString &
     if (reply.type() == QDBusMessage::ReplyMessage)
         return {};
     const QDBusError error(reply);
-    if (!bus.isConnected() || error.type() == QDBusError::ServiceUnknown
-        || error.type() == QDBusError::Disconnected)
+    if (!bus.isConnected() || error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner"
+        || error.type() == QDBusError::ServiceUnknown)
         return tl::unexpected(RemoteError{true, QStringLiteral("Moravel is not running")});
     if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
         return tl::unexpected(
