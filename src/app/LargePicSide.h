@@ -46,6 +46,7 @@ public:
 private:
     LargePicPorts ports(PictureService &service, DesktopSide *desktop);
     void addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) const;
+    ThumbView *cellToShow() const;
     void findPage(const ThumbView &cell, const std::function<void(const QString &)> &done) const;
 
     ServiceContext m_context;

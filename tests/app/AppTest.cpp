@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole application offscreen: real window, disk and images, a virtual clock, a played service.
+#include "support/ExpectWarning.h"
 #include "support/FakeHttp.h"
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
@@ -9,6 +10,7 @@
 
 #include "app/MoravelAppDelegate.h"
 #include "mainwindow/CaptionLabel.h"
+#include "mainwindow/LargePicWindow.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/qt/QtDefaults.h"
 
@@ -175,6 +177,42 @@ TEST_F(AppTest, leftOversGoAtTheStartAndHalfDownloadsAtTheEnd)
         folder.entryList({QStringLiteral(".*.part")}, QDir::Files | QDir::Hidden).isEmpty());
     app.delegate.applicationShouldTerminate();
     EXPECT_TRUE(folder.entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+TEST_F(AppTest, largePictureFollowsItsDownloadAndHoldsTheSequenceForItsPage)
+{
+    expectWarning(QStringLiteral("This plugin does not support")); // raising a window, offscreen
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    bool slow = true;
+    app.http.answer = [&](const HttpRequest &request) -> std::optional<FakeHttp::Answer> {
+        return slow && request.url.fileName() == u"A.jpg" ? std::nullopt : app.serve(request);
+    };
+    app.run(20);
+    ThumbView &cell = app.delegate.cells().at(0);
+    cell.showThumbLarge();
+    LargePic &large = app.delegate.largePic();
+    ASSERT_TRUE(large.isVisible());
+    const auto part = [&large](const char *name) {
+        return large.pic()->findChild<QWidget *>(QLatin1String(name));
+    };
+    EXPECT_TRUE(part("progress")->isVisible());
+    EXPECT_EQ(large.pic()->picDetails().toPlainText(), QStringLiteral("Info"));
+    slow = false;
+    app.delegate.applicationShouldTerminate(); // ends the download that hangs
+    cell.showThumbLarge();
+    app.run(2);
+    EXPECT_FALSE(part("progress")->isVisible());
+    EXPECT_FALSE(large.pic()->largeImage().image().isNull());
+
+    cell.setParentPath({});
+    large.showParent();
+    EXPECT_TRUE(app.loop.isHeld());
+    EXPECT_FALSE(part("parentButton")->isEnabled());
+    app.run(1);
+    EXPECT_FALSE(app.loop.isHeld());
+    EXPECT_TRUE(part("parentButton")->isEnabled());
 }
 
 TEST(Options, commandLine)
