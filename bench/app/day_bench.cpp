@@ -36,7 +36,8 @@ int main(int argc, char **argv)
     moravel::bench::RealPlatform platform;
     moravel::Options options;
     options.sources = QStringList{QStringLiteral("all")};
-    moravel::MoravelAppDelegate delegate(platform.lend(), std::nullopt, arguments[1], options);
+    moravel::MoravelAppDelegate delegate(platform.lend(), std::nullopt,
+                                         platform.shareSetup(arguments[1]), options);
     delegate.applicationWillFinishLaunching();
     delegate.window().show();
 

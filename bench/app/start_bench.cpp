@@ -38,8 +38,9 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
     moravel::bench::RealPlatform platform;
-    moravel::MoravelAppDelegate delegate(platform.lend(), std::nullopt,
-                                         QStringLiteral("http://127.0.0.1:9/potd"), {});
+    moravel::MoravelAppDelegate delegate(
+        platform.lend(), std::nullopt,
+        platform.shareSetup(QStringLiteral("http://127.0.0.1:9/potd")), {});
     delegate.applicationWillFinishLaunching();
     delegate.window().installEventFilter(&end);
     delegate.window().show();

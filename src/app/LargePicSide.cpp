@@ -2,28 +2,28 @@
 #include "app/LargePicSide.h"
 
 #include "mainwindow/CellWidget.h"
+#include "mainwindow/LargePicWindow.h"
 
 #include <QAction>
-#include <QDesktopServices>
 #include <QMenu>
-#include <QUrl>
 
 namespace moravel {
 
-LargePicSide::LargePicSide(const ServiceContext &context, PictureService &service,
-                           const QString &baseUrl, DesktopSide *desktop)
+LargePicSide::LargePicSide(const ServiceContext &context, PictureService &service, ShareSide &share,
+                           DesktopSide *desktop)
     : m_context(context)
-    , m_urls(baseUrl)
-    , m_fetch(context.platform.http, context.platform.loop)
     , m_largePic({context.cells, context.platform.files, context.platform.images, context.folders,
                   context.links},
-                 ports(service, desktop))
+                 ports(service, share, desktop))
 {
+    share.largeWindow = [this]() -> QWidget * {
+        return m_largePic.isVisible() ? m_largePic.pic() : nullptr;
+    };
     if (desktop)
         desktop->setShowLargePic([this](ThumbView &cell) { m_largePic.showLargePic(cell, 1); });
 }
 
-LargePicPorts LargePicSide::ports(PictureService &service, DesktopSide *desktop)
+LargePicPorts LargePicSide::ports(PictureService &service, ShareSide &share, DesktopSide *desktop)
 {
     LargePicPorts ports;
     ports.largePicFilePathForThumb = [&service](ThumbView &cell) {
@@ -32,13 +32,16 @@ LargePicPorts LargePicSide::ports(PictureService &service, DesktopSide *desktop)
     ports.isDownloading = [&service](const QString &path) {
         return service.downloads().isDownloading(path);
     };
-    ports.findPage = [this](const ThumbView &cell,
-                            const std::function<void(const QString &)> &done) {
-        findPage(cell, done);
+    ports.findPage = [this, &service](const ThumbView &cell,
+                                      std::function<void(const QString &)> done) {
+        service.pages().find(cell.shortSourceName(),
+                             m_context.dates.shortDateFromLocalDate(cell.dateString()),
+                             std::move(done));
     };
-    ports.openUrl = [](const QString &address) {
-        QDesktopServices::openUrl(QUrl::fromEncoded(address.toLatin1()));
-    };
+    ports.openUrl = [&share](const QString &address) { share.openUrl(address); };
+    ports.shareEmail = [&share](ThumbView &cell) { share.shareEmail(cell); };
+    ports.shareFacebook = [&share](ThumbView &cell) { share.shareFacebook(cell); };
+    ports.shareTwitter = [&share](ThumbView &cell) { share.shareTwitter(cell); };
     if (desktop)
         addDesktopPorts(ports, *desktop);
     return ports;
@@ -57,14 +60,19 @@ void LargePicSide::addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) c
     };
 }
 
-void LargePicSide::findPage(const ThumbView &cell,
-                            const std::function<void(const QString &)> &done) const
+/// The cell that the keyboard is at, else the desktop's, else the first of the grid.
+ThumbView *LargePicSide::cellToShow() const
 {
-    const QString day = m_context.dates.shortDateFromLocalDate(cell.dateString());
-    m_fetch.get(m_urls.parent(cell.shortSourceName(), day), httplimits::Text,
-                [done](const FetchResult &answer) {
-                    done(answer ? QString::fromLatin1(answer->trimmed()) : QString());
-                });
+    if (ThumbView *cell = focusedCell())
+        return cell;
+    ThumbView &desktop = m_context.cells.desktopThumb();
+    if (!desktop.picPath().isEmpty())
+        return &desktop;
+    for (const auto &cell : m_context.cells.thumbViews()) {
+        if (!cell->isHidden() && !cell->picPath().isEmpty())
+            return cell.get();
+    }
+    return nullptr;
 }
 
 void LargePicSide::attachWindow(MainWindow &window, ToolTips &toolTips)
@@ -73,8 +81,8 @@ void LargePicSide::attachWindow(MainWindow &window, ToolTips &toolTips)
     item->setObjectName(QStringLiteral("largePicMenuItem"));
     item->setShortcut(Qt::CTRL | Qt::Key_L);
     QObject::connect(item, &QAction::triggered, &window, [this] {
-        ThumbView *cell = focusedCell();
-        m_largePic.showLargePic(cell ? *cell : m_context.cells.desktopThumb(), 1);
+        if (ThumbView *cell = cellToShow())
+            m_largePic.showLargePic(*cell, 1);
     });
     QMenu &menu = window.viewMenu();
     menu.insertAction(menu.actions().value(0), item);

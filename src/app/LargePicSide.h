@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/DesktopSide.h"
+#include "app/ShareSide.h"
 #include "mainwindow/LargePic.h"
 #include "mainwindow/ToolTips.h"
 #include "service/PictureService.h"
@@ -13,7 +14,7 @@ class LargePicSide : public LargePicPort
 {
 public:
     /// All references, and @p desktop if there is one, must outlive this object.
-    LargePicSide(const ServiceContext &context, PictureService &service, const QString &baseUrl,
+    LargePicSide(const ServiceContext &context, PictureService &service, ShareSide &share,
                  DesktopSide *desktop);
 
     /// Offers the window's command in the View menu of the main window.
@@ -44,13 +45,11 @@ public:
     void displayPicFile(const QString &path) override { m_largePic.displayPicFile(path); }
 
 private:
-    LargePicPorts ports(PictureService &service, DesktopSide *desktop);
+    LargePicPorts ports(PictureService &service, ShareSide &share, DesktopSide *desktop);
     void addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) const;
-    void findPage(const ThumbView &cell, const std::function<void(const QString &)> &done) const;
+    ThumbView *cellToShow() const;
 
     ServiceContext m_context;
-    ServiceUrls m_urls;
-    HeldFetch m_fetch;
     LargePic m_largePic;
 };
 

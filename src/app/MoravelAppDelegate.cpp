@@ -25,7 +25,7 @@ ThumbImages thumbImages(const Images &images)
 
 MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
                                        const std::optional<DesktopPlatform> &desktop,
-                                       const QString &baseUrl, Options options)
+                                       const ShareSetup &share, Options options)
     : m_platform(platform)
     , m_options(std::move(options))
     , m_preferences(m_platform.defaults)
@@ -38,12 +38,14 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     , m_links(m_folders, m_platform.files)
     , m_context{m_platform, m_dates,   m_datePicker, m_cells, m_sourceNames,
                 m_folders,  m_records, m_updates,    m_links, m_ports}
-    , m_service(m_context, baseUrl)
+    , m_service(m_context, share.addresses.home)
+    , m_share(m_context, m_preferences, m_service, share, desktop ? desktop->pictures : nullptr)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
+    m_ports.loadNews = [this] { m_service.news().loadNews(); };
     if (desktop)
         buildDesktop(*desktop);
-    m_largePic = std::make_unique<LargePicSide>(m_context, m_service, baseUrl, m_desktop.get());
+    m_largePic = std::make_unique<LargePicSide>(m_context, m_service, m_share, m_desktop.get());
     m_ports.largePic = m_largePic.get();
 }
 
@@ -130,6 +132,7 @@ void MoravelAppDelegate::buildWindow()
     m_largePic->attachWindow(*m_window, *m_toolTips);
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
+    m_share.attachWindow(*m_window, *m_grid);
 }
 
 void MoravelAppDelegate::applicationDidFinishLaunching()
@@ -145,7 +148,7 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
         sourcesAreKnown();
         if (m_desktop)
             m_desktop->management().start();
-        m_toolTips->readTooltipOptions();
+        m_service.news().loadNews([this] { m_toolTips->readTooltipOptions(); });
     });
 }
 

@@ -4,6 +4,7 @@
 #include "app/DesktopSide.h"
 #include "app/LargePicSide.h"
 #include "app/Options.h"
+#include "app/ShareSide.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
 #include "base/Preferences.h"
@@ -27,10 +28,10 @@ class MoravelAppDelegate : public QObject
     Q_OBJECT
 
 public:
-    /// @p baseUrl is the service's address. What the platforms name must outlive this object. Without a
-    /// @p desktop no command concerning the desktop picture is offered.
+    /// The home address of @p share is the service's. What the platforms name must outlive this object.
+    /// Without a @p desktop no command concerning the desktop picture is offered.
     MoravelAppDelegate(const Platform &platform, const std::optional<DesktopPlatform> &desktop,
-                       const QString &baseUrl, Options options);
+                       const ShareSetup &share, Options options);
     ~MoravelAppDelegate() override;
 
     /// Prepares the window; it can be shown then.
@@ -77,6 +78,7 @@ private:
     ServiceContext m_context;
     PictureService m_service;
     std::unique_ptr<DesktopSide> m_desktop;
+    ShareSide m_share;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

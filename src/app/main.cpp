@@ -10,12 +10,15 @@
 #include "platform/linux/session/ProgramName.h"
 #include "platform/linux/session/QtTray.h"
 #include "platform/linux/session/SessionEvents.h"
+#include "platform/qt/MessageLog.h"
 #include "platform/qt/QtAlerts.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDefaults.h"
 #include "platform/qt/QtHttp.h"
 #include "platform/qt/QtImages.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtRandom.h"
+#include "platform/qt/QtUrlOpener.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -116,6 +119,16 @@ struct LinuxDesktop
     std::unique_ptr<DesktopPictures> pictures;
 };
 
+ShareSetup shareSetup(UrlOpener &urls, Clipboard &clipboard)
+{
+    return {urls,
+            clipboard,
+            {QStringLiteral(MORAVEL_FACEBOOK_HOST), QStringLiteral(MORAVEL_TWITTER_HOST),
+             QStringLiteral(MORAVEL_SERVICE_BASE_URL)},
+            QStringLiteral(MORAVEL_SUPPORT_ADDRESS),
+            QStringLiteral(MORAVEL_VERSION)};
+}
+
 int runApplication(QApplication &app, const Options &options)
 {
     ProgramInstance instance(QDBusConnection::sessionBus());
@@ -132,9 +145,11 @@ int runApplication(QApplication &app, const Options &options)
     QtAlerts alerts;
     QtImages images;
     QtRandom random;
+    QtUrlOpener urls;
+    QtClipboard clipboard;
     LinuxDesktop desktop(loop, files, images);
     MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                desktop.lend(), QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
+                                desktop.lend(), shareSetup(urls, clipboard), options);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();
@@ -153,7 +168,7 @@ int runApplication(QApplication &app, const Options &options)
 
 int main(int argc, char **argv)
 {
-    qSetMessagePattern(QStringLiteral("%{if-category}%{category}: %{endif}%{message}"));
+    installMessageLog();
     for (int i = 1; i < argc; ++i) {
         if (isQuestion(argv[i]))
             return *answeredAtOnce(parseOptions({QString::fromLocal8Bit(argv[i])}));

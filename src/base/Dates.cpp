@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/Dates.h"
 
-#include <QLoggingCategory>
+#include "base/Logging.h"
 
 #include <mutex>
 #include <unicode/datefmt.h>
@@ -11,8 +11,6 @@
 namespace moravel {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcBase, "moravel.base")
 
 constexpr double msecsPerDay = 86400000.0;
 constexpr int lastYear = 9999;

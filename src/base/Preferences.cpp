@@ -15,6 +15,7 @@ const QString SizeKey = QStringLiteral("DesktopSize");
 const QString SpacesKey = QStringLiteral("SetAllSpaces");
 const QString ScreensKey = QStringLiteral("SetAllScreens");
 const QString TooltipsKey = QStringLiteral("HideTooltips");
+const QString FacebookKey = QStringLiteral("Facebook");
 
 constexpr int AutoSizing =
     1000; // a stored 0 cannot be told from an absent value and means this too
@@ -106,6 +107,16 @@ bool Preferences::readHideTooltips() const
 void Preferences::saveHideTooltips(bool hide)
 {
     m_defaults.setBoolean(TooltipsKey, hide);
+}
+
+bool Preferences::readFacebook() const
+{
+    return m_defaults.boolean(FacebookKey).value_or(false);
+}
+
+void Preferences::saveFacebook(bool told)
+{
+    m_defaults.setBoolean(FacebookKey, told);
 }
 
 } // namespace moravel

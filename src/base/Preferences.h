@@ -42,6 +42,10 @@ public:
     bool readHideTooltips() const;
     void saveHideTooltips(bool hide);
 
+    /// Tells whether the user has been told what sharing on Facebook does.
+    bool readFacebook() const;
+    void saveFacebook(bool told);
+
     /// Sets the mirrored interval without storing it; the one-hour hold does so for a moment.
     void setRotateFrequency(int minutes) { m_rotateFrequency = minutes; }
 

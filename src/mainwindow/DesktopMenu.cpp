@@ -28,7 +28,7 @@ DesktopMenu::DesktopMenu(QMenu &menu, Preferences &preferences, DesktopMenuPorts
     m_allScreensMenuItem = addOption(tr("All S&creens"), Preferences::AllScreensTag);
     m_allSpacesMenuItem = addOption(tr("All Virtual &Desktops"), Preferences::AllSpacesTag);
     m_menu.addSeparator();
-    m_menu.addAction(tr("System &Desktop Settings…"), this,
+    m_menu.addAction(tr("System Desktop Se&ttings…"), this,
                      [this] { m_ports.showSystemSettings(); });
 
     connect(m_desktopChangeMenu, &QActionGroup::triggered, this, [this](const QAction *item) {

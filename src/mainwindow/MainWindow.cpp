@@ -104,9 +104,6 @@ void MainWindow::buildMenus(ToolTips &toolTips)
     for (const QAction *item : {close, quit}) // closing this window ends the application
         connect(item, &QAction::triggered, this, &QWidget::close);
     buildViewMenu(toolTips);
-    QAction *about = m_helpMenu->addAction(tr("&About Moravel"));
-    about->setMenuRole(QAction::AboutRole);
-    connect(about, &QAction::triggered, this, [this] { showAbout(this); });
 }
 
 void MainWindow::buildViewMenu(ToolTips &toolTips)

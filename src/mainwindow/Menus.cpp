@@ -2,8 +2,6 @@
 #include "mainwindow/Menus.h"
 
 #include <QActionEvent>
-#include <QCoreApplication>
-#include <QMessageBox>
 
 namespace moravel {
 
@@ -37,24 +35,6 @@ void SwitchMenu::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Space || !flipActive())
         QMenu::keyPressEvent(event);
-}
-
-void showAbout(QWidget *window)
-{
-    auto *box = new QMessageBox(window);
-    box->setObjectName(QStringLiteral("aboutBox"));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QMenu::tr("About Moravel"));
-    box->setTextFormat(Qt::PlainText);
-    box->setText(QMenu::tr("Moravel %1").arg(QCoreApplication::applicationVersion()).trimmed());
-    box->setInformativeText(QMenu::tr(
-        "Shows the pictures of the day of many sources side by side, keeps every one with "
-        "its caption, and makes any of them the desktop picture.\n\nFree software under "
-        "the MIT licence."));
-    const QIcon icon = window->windowIcon();
-    if (!icon.isNull())
-        box->setIconPixmap(icon.pixmap(64));
-    box->open();
 }
 
 } // namespace moravel

@@ -33,7 +33,4 @@ private:
     bool flipActive();
 };
 
-/// Opens the About box of @p window; it is not modal to anything else.
-void showAbout(QWidget *window);
-
 } // namespace moravel

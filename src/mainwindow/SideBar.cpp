@@ -5,6 +5,7 @@
 #include "mainwindow/CellWidget.h"
 #include "mainwindow/DatePickerWidget.h"
 #include "mainwindow/GridLayout.h"
+#include "mainwindow/Icons.h"
 
 #include <QLabel>
 #include <QToolButton>
@@ -51,6 +52,7 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
     : QWidget(parent)
     , m_nextChange(new CaptionLabel(3, this))
     , m_keepButton(new QPushButton(tr("&Keep for 1 hour"), this))
+    , m_newsButton(new QPushButton(themedIcon(QStringLiteral("news")), tr("Read the &News"), this))
 {
     setObjectName(QStringLiteral("sideBar"));
     m_nextChange->setObjectName(QStringLiteral("nextChange"));
@@ -59,6 +61,9 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
     m_keepButton->setObjectName(QStringLiteral("keepButton"));
     m_keepButton->hide();
     connect(m_keepButton, &QPushButton::clicked, this, &SideBar::keepButtonClicked);
+    m_newsButton->setObjectName(QStringLiteral("newsButton"));
+    m_newsButton->hide();
+    connect(m_newsButton, &QPushButton::clicked, this, &SideBar::newsButtonClicked);
     auto *desktop = new CellWidget(desktopThumb, this);
     desktop->setObjectName(QStringLiteral("desktopThumb"));
     desktop->setFixedSize(grid::CellWidth - Margin, grid::CellHeight);
@@ -75,6 +80,7 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
     today->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     column->addWidget(today, 0, Qt::AlignHCenter);
     column->addStretch(1);
+    column->addWidget(m_newsButton);
 }
 
 QWidget *SideBar::makeDateRow(DatePicker &datePicker, const DateActions &actions)
@@ -98,6 +104,11 @@ void SideBar::setNextChange(const QString &text)
 void SideBar::setKeepButtonVisible(bool visible)
 {
     m_keepButton->setVisible(visible);
+}
+
+void SideBar::setNewsButtonVisible(bool visible)
+{
+    m_newsButton->setVisible(visible);
 }
 
 } // namespace moravel

@@ -20,7 +20,7 @@ struct DateActions
     QAction *today = nullptr;
 };
 
-/// The pane at the side: the current desktop, when it changes next, and the date.
+/// The pane at the side: the current desktop, when it changes next, the date, and unread news.
 class SideBar : public QWidget
 {
     Q_OBJECT
@@ -35,14 +35,19 @@ public:
     /// Shows or hides the button that keeps this desktop for an hour.
     void setKeepButtonVisible(bool visible);
 
+    /// Shows or hides the button that opens the news.
+    void setNewsButtonVisible(bool visible);
+
 Q_SIGNALS:
     void keepButtonClicked();
+    void newsButtonClicked();
 
 private:
     QWidget *makeDateRow(DatePicker &datePicker, const DateActions &actions);
 
     CaptionLabel *m_nextChange;
     QPushButton *m_keepButton;
+    QPushButton *m_newsButton;
 };
 
 } // namespace moravel

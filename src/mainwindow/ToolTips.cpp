@@ -8,7 +8,7 @@ namespace moravel {
 ToolTips::ToolTips(ThumbCells &cells, Preferences &preferences)
     : m_cells(cells)
     , m_preferences(preferences)
-    , m_tooltipsMenuItem(makeCheckItem(tr("Show &Tool Tips"), this, [this] { toggleToolTips(); }))
+    , m_tooltipsMenuItem(makeCheckItem(tr("Show T&ool Tips"), this, [this] { toggleToolTips(); }))
 {
     m_tooltipsMenuItem->setObjectName(QStringLiteral("tooltipsMenuItem"));
 }

@@ -91,7 +91,7 @@ void WelcomePanel::buildCard(const QStringList &longNames)
     column->addSpacing(4);
     column->addWidget(makeList(longNames), 1);
     column->addSpacing(4);
-    m_showButton = new QPushButton(tr("&Show Pictures"), card);
+    m_showButton = new QPushButton(tr("Show &Pictures"), card);
     m_showButton->setObjectName(QStringLiteral("showPicturesButton"));
     m_showButton->setAutoDefault(true);
     m_showButton->setDefault(true);

@@ -8,6 +8,8 @@ PictureService::PictureService(const ServiceContext &context, const QString &bas
     , m_urls(baseUrl)
     , m_fetch(context.platform.http, context.platform.loop)
     , m_sources(m_fetch, m_urls, context.platform.files, context.folders, context.sourceNames)
+    , m_news(m_fetch, context.platform.loop, m_urls, context.platform.files, context.folders)
+    , m_pages(m_fetch, m_urls)
     , m_queue(context.platform.http, context.platform.loop, context.ports)
     , m_data(m_context, m_urls, m_queue)
     , m_picturePass(m_context, m_state, m_queue)

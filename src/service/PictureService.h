@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "service/News.h"
+#include "service/PageLookup.h"
 #include "service/PictureData.h"
 #include "service/PicturePass.h"
 #include "service/SourceList.h"
@@ -17,6 +19,10 @@ public:
 
     SourceList &sources() { return m_sources; }
 
+    News &news() { return m_news; }
+
+    const PageLookup &pages() const { return m_pages; }
+
     ThumbPass &thumbPass() { return m_thumbPass; }
 
     Downloads &downloads() { return m_picturePass.downloads(); }
@@ -29,6 +35,8 @@ private:
     HeldFetch m_fetch;
     PassState m_state;
     SourceList m_sources;
+    News m_news;
+    PageLookup m_pages;
     ConnectionQueue m_queue;
     PictureData m_data;
     PicturePass m_picturePass;

@@ -29,6 +29,13 @@ QString ServiceUrls::sources() const
     return m_base + QLatin1String("/defs/getSources.irev");
 }
 
+QString ServiceUrls::news(const QDateTime &moment) const
+{
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+    return QStringLiteral("%1/defs/getNews.irev?timestamp=%2")
+        .arg(m_base, QString::number(reference.secsTo(moment)));
+}
+
 QString ServiceUrls::all(const QString &shortSource, const QString &day) const
 {
     return query(QStringLiteral("all"), shortSource, escapedDay(day));

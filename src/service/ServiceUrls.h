@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 
 namespace moravel {
@@ -15,6 +16,8 @@ public:
     QString base() const { return m_base; }
 
     QString sources() const;
+    /// The news, with the moment as a time stamp, so that no cache answers.
+    QString news(const QDateTime &moment) const;
     /// All data of a picture; the day's slashes are escaped, since this query becomes a form body.
     QString all(const QString &shortSource, const QString &day) const;
     QString refreshAll(const QString &shortSource, const QString &day) const;

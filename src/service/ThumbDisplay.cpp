@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "service/ThumbDisplay.h"
 
+#include "base/Diagnostics.h"
 #include "service/Logging.h"
+
+#include <QLocale>
 
 namespace moravel {
 
@@ -96,6 +99,8 @@ void ThumbDisplay::keep(const Job &job, const QByteArray &bytes, const Then &the
 
 void ThumbDisplay::load(const Job &job)
 {
+    debugLog(QStringLiteral("Thumb file size: %1")
+                 .arg(QLocale::c().formattedDataSize(m_context.platform.files.size(job.path))));
     if (job.path.isEmpty()) {
         loadLargePic(job);
         return;

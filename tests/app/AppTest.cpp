@@ -1,21 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The whole application offscreen: real window, disk and images, a virtual clock, a played service.
-#include "support/FakeHttp.h"
-#include "support/FakeImages.h"
-#include "support/FakeMainLoop.h"
-#include "support/FakePlatform.h"
-#include "support/HomeFiles.h"
-#include "support/TempHome.h"
+#include "App.h"
 
-#include "app/MoravelAppDelegate.h"
 #include "mainwindow/CaptionLabel.h"
-#include "platform/linux/PosixFiles.h"
-#include "platform/qt/QtDefaults.h"
+#include "mainwindow/LargePicWindow.h"
 
 #include <QAbstractButton>
 #include <QDir>
 #include <QTest>
-#include <QUrlQuery>
 
 #include <gtest/gtest.h>
 
@@ -23,58 +15,6 @@ namespace moravel {
 namespace {
 
 using namespace testing;
-
-class App
-{
-public:
-    explicit App(const TempHome &home, Options options = {})
-        : files(home)
-        , defaults(home.path(QStringLiteral("prefs.ini")))
-        , delegate({loop, http, defaults, files, alerts, images, random}, std::nullopt,
-                   QStringLiteral("http://service/potd"), std::move(options))
-    {
-        http.answer = [this](const HttpRequest &request) { return serve(request); };
-        delegate.applicationWillFinishLaunching();
-        delegate.window().show();
-        loop.schedule(0, [this] { delegate.applicationDidFinishLaunching(); });
-    }
-
-    void run(double seconds)
-    {
-        for (int step = 0; step < qRound(seconds / 0.05); ++step) {
-            loop.advance(0.05);
-            while (http.deliver() || images.deliver()) { }
-        }
-        QCoreApplication::processEvents();
-    }
-
-    std::optional<FakeHttp::Answer> serve(const HttpRequest &request)
-    {
-        const QString url = request.url.toString();
-        if (down)
-            return FakeHttp::Answer{{}, 500};
-        if (url.endsWith(QLatin1String("getSources.irev")))
-            return FakeHttp::Answer{"Astronomy\tB\nSea & Land\tA"};
-        if (request.method != "POST")
-            return FakeHttp::Answer{"IMG"};
-        const QString id =
-            QUrlQuery(QString::fromUtf8(request.body)).queryItemValue(QStringLiteral("source"));
-        return FakeHttp::Answer{
-            QStringLiteral("http://p\nCaption %1\nhttp://p/t%1.jpg\nhttp://p/%1.jpg\n\n\nInfo")
-                .arg(id)
-                .toUtf8()};
-    }
-
-    bool down = false;
-    FakeMainLoop loop;
-    FakeHttp http;
-    HomeFiles files;
-    QtDefaults defaults;
-    FakeAlerts alerts;
-    FakeImages images;
-    FakeRandom random;
-    MoravelAppDelegate delegate;
-};
 
 class AppTest : public ::testing::Test
 {
@@ -175,6 +115,41 @@ TEST_F(AppTest, leftOversGoAtTheStartAndHalfDownloadsAtTheEnd)
         folder.entryList({QStringLiteral(".*.part")}, QDir::Files | QDir::Hidden).isEmpty());
     app.delegate.applicationShouldTerminate();
     EXPECT_TRUE(folder.entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+TEST_F(AppTest, largePictureFollowsItsDownloadAndHoldsTheSequenceForItsPage)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    bool slow = true;
+    app.http.answer = [&](const HttpRequest &request) -> std::optional<FakeHttp::Answer> {
+        return slow && request.url.fileName() == u"A.jpg" ? std::nullopt : app.serve(request);
+    };
+    app.run(20);
+    ThumbView &cell = app.delegate.cells().at(0);
+    cell.showThumbLarge();
+    LargePic &large = app.delegate.largePic();
+    ASSERT_TRUE(large.isVisible());
+    const auto part = [&large](const char *name) {
+        return large.pic()->findChild<QWidget *>(QLatin1String(name));
+    };
+    EXPECT_TRUE(part("progress")->isVisible());
+    EXPECT_EQ(large.pic()->picDetails().toPlainText(), QStringLiteral("Info"));
+    slow = false;
+    app.delegate.applicationShouldTerminate(); // ends the download that hangs
+    cell.showThumbLarge();
+    app.run(2);
+    EXPECT_FALSE(part("progress")->isVisible());
+    EXPECT_FALSE(large.pic()->largeImage().image().isNull());
+
+    cell.setParentPath({});
+    large.showParent();
+    EXPECT_TRUE(app.loop.isHeld());
+    EXPECT_FALSE(part("parentButton")->isEnabled());
+    app.run(1);
+    EXPECT_FALSE(app.loop.isHeld());
+    EXPECT_TRUE(part("parentButton")->isEnabled());
 }
 
 TEST(Options, commandLine)

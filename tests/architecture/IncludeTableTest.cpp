@@ -31,10 +31,11 @@ Table allowed()
         {QStringLiteral("notify"), set("platform thumb")},
         {QStringLiteral("service"), set("platform base text store thumb")},
         {QStringLiteral("desktop"), set("platform base text store thumb")},
+        {QStringLiteral("share"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
         {QStringLiteral("app"),
          set("platform platform/qt platform/linux base text store thumb notify service desktop "
-             "mainwindow")},
+             "share mainwindow")},
         {QStringLiteral("server"), set("text server")},
     };
 }
@@ -99,7 +100,7 @@ TEST(Architecture, logicFoldersShowAndConnectNothing)
                        "<Q(Application|Widget|MessageBox|NetworkAccessManager|Timer|EventLoop)>"));
     const QString root = QStringLiteral(MORAVEL_SOURCE_DIR "/src/");
     for (const char *folder :
-         {"platform", "text", "base", "store", "thumb", "notify", "service", "desktop"}) {
+         {"platform", "text", "base", "store", "thumb", "notify", "service", "desktop", "share"}) {
         QDirIterator it(root + QLatin1String(folder),
                         {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files);
         while (it.hasNext()) {
@@ -125,6 +126,24 @@ TEST(Architecture, everySourceNamesItsLicence)
                 << qPrintable(file.fileName());
         }
     }
+}
+
+TEST(Architecture, everyMessageHasTheCategoryOfItsFolder)
+{
+    static const QRegularExpression bare(QStringLiteral("\\bq(Debug|Info|Warning|Critical)\\("));
+    static const QRegularExpression category(QStringLiteral("\\bQ_LOGGING_CATEGORY\\("));
+    QMap<QString, int> categories;
+    QDirIterator it(QStringLiteral(MORAVEL_SOURCE_DIR "/src"), {QStringLiteral("*.cpp")},
+                    QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QFile file(it.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        EXPECT_FALSE(bare.match(text).hasMatch()) << qPrintable(file.fileName());
+        categories[it.fileInfo().path()] += static_cast<int>(text.count(category));
+    }
+    for (auto folder = categories.cbegin(); folder != categories.cend(); ++folder)
+        EXPECT_LE(*folder, 1) << qPrintable(folder.key());
 }
 
 } // namespace

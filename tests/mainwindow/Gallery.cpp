@@ -7,15 +7,19 @@
 
 #include "mainwindow/CellMenu.h"
 #include "mainwindow/DatePickerWidget.h"
+#include "mainwindow/HelpMenu.h"
+#include "mainwindow/Sheet.h"
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QDialog>
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTabWidget>
 #include <QTest>
 
 using namespace moravel;
@@ -124,6 +128,58 @@ ThumbCommands commands()
     return {nothing, nothing, nothing, nothing, nothing, nothing, nothing, nothing};
 }
 
+AboutText aboutText()
+{
+    return {QIcon(QStringLiteral(MORAVEL_SOURCE_DIR "/packaging/icons/moravel.svg")),
+            QStringLiteral("1.0.0"), QStringLiteral("http://127.0.0.1:8642/potd"),
+            names(15).values()};
+}
+
+/// The news, what sharing says, and the about box.
+void saveSheets(WindowFixture &w, const QString &prefix)
+{
+    const QString news = QStringLiteral("Three new sources since this week");
+    const QString text =
+        QStringLiteral("The service has three new sources: Sky Tonight, Maps and Birds. Switch "
+                       "them on in the Sources menu.\n\nFrom 1 December the pictures of the day "
+                       "come at midnight of your own time zone.");
+
+    const struct
+    {
+        const char *name;
+        Sheet sheet;
+    } table[] = {
+        {"news", {Sheet::Style::Information, news, text}},
+        {"news-long",
+         {Sheet::Style::Information, news, (text + QStringLiteral("\n\n")).repeated(9)}},
+        {"news-empty", {}},
+        {"share-failed",
+         {Sheet::Style::Warning,
+          QStringLiteral("Sorry, that picture could not be shared via email."),
+          QStringLiteral("The original web page could not be found.")}},
+        {"share-facebook",
+         {Sheet::Style::Information,
+          QStringLiteral(
+              "You will now be taken to your web browser with a link that will allow you "
+              "to share this picture on Facebook.\n\nMore information about the picture "
+              "is in the clipboard for pasting into the Facebook messsage area.\n"),
+          QStringLiteral("This message will not be shown again.")}},
+    };
+
+    for (const auto &row : table) {
+        showSheet(w.window.get(), row.sheet);
+        auto *sheet = w.find<QDialog>("sheet");
+        save(*sheet, prefix + QStringLiteral("sheet-") + QLatin1String(row.name));
+        delete sheet;
+    }
+    w.window->helpMenu().actions().last()->trigger();
+    auto *about = w.find<QDialog>("aboutBox");
+    save(*about, prefix + QStringLiteral("about"));
+    about->findChild<QTabWidget *>()->setCurrentIndex(1);
+    save(*about, prefix + QStringLiteral("about-licences"));
+    delete about;
+}
+
 /// The calendar, the menu of the sources and the context menu of a cell.
 void savePopups(WindowFixture &w, const QString &prefix)
 {
@@ -132,13 +188,13 @@ void savePopups(WindowFixture &w, const QString &prefix)
     save(*picker->calendarWidget(), prefix + QStringLiteral("calendar"));
     picker->calendarWidget()->window()->close();
     QMenu *cellMenu = makeCellMenu(w.cells.at(0), w.window.get()); // goes when it closes
-    for (QMenu *menu : {&w.window->sourcesMenu(), &w.window->viewMenu(), cellMenu}) {
+    for (QMenu *menu :
+         {&w.window->sourcesMenu(), &w.window->viewMenu(), &w.window->helpMenu(), cellMenu}) {
         menu->popup(w.window->pos());
         save(*menu, prefix + QStringLiteral("menu-%1").arg(menu->title().remove(u'&')));
         menu->close();
     }
-    w.window->helpMenu().actions().last()->trigger();
-    save(*w.find<QWidget>("aboutBox"), prefix + QStringLiteral("about"));
+    saveSheets(w, prefix);
 }
 
 void shoot(const QString &prefix)
@@ -152,7 +208,9 @@ void shoot(const QString &prefix)
         w.sources->switchAll(true);
         save(*w.window, prefix + QStringLiteral("waiting"));
         w.toolTips->readTooltipOptions();
+        fillHelpMenu(w.window->helpMenu(), *w.window, {[] {}, [] {}, [] {}, [] {}, aboutText});
         fill(w);
+        w.window->sideBar().setNewsButtonVisible(true);
         w.window->activateWindow();
         QTest::mouseMove(w.cell(5), {100, 100});
         w.find<QWidget>("clicker", w.cell(1))->setFocus();

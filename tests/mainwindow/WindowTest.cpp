@@ -3,11 +3,13 @@
 
 #include "mainwindow/CaptionLabel.h"
 #include "mainwindow/FlippedClipView.h"
+#include "mainwindow/Sheet.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QMenu>
-#include <QMessageBox>
 #include <QTest>
+#include <QTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -80,11 +82,6 @@ TEST(MainWindow, MenusAppearWithTheirItems)
     w.build(1);
     EXPECT_TRUE(w.window->desktopMenu().menuAction()->isVisible());
     EXPECT_TRUE(w.window->sourcesMenu().menuAction()->isVisible());
-    w.window->helpMenu().actions().last()->trigger();
-    auto *about = w.find<QMessageBox>("aboutBox");
-    ASSERT_TRUE(about && about->isVisible());
-    QTest::keyClick(about, Qt::Key_Escape);
-
     QApplication::setActiveWindow(w.window.get());
     bool closing = false;
     w.window->windowShouldClose = [&closing] { return closing; };
@@ -93,6 +90,29 @@ TEST(MainWindow, MenusAppearWithTheirItems)
     closing = true;
     QTest::keyClick(w.window.get(), Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(w.window->isVisible());
+}
+
+TEST(Sheet, ShowsAnyTextAndEndsOnce)
+{
+    WindowFixture w;
+    w.window->show();
+    for (const QString &text : {QString(), QStringLiteral("<b>one</b> & two"), QString(5'000, u'x'),
+                                QStringLiteral("line\n").repeated(20'000)}) {
+        int ends = 0;
+        const Sheet sheet{Sheet::Style::Warning, text, text};
+        showSheet(w.window.get(), sheet, [&ends] { ++ends; });
+        showSheet(w.window.get(), sheet); // the same, not stacked on it
+        const auto sheets = w.window->findChildren<QDialog *>(QStringLiteral("sheet"));
+        ASSERT_EQ(sheets.size(), 1);
+        EXPECT_LE(sheets[0]->height(), 600);
+        EXPECT_LE(sheets[0]->width(), 520);
+        if (const auto *shown = w.find<QTextEdit>("sheetText"); !text.isEmpty()) {
+            EXPECT_TRUE(shown && shown->toPlainText().startsWith(text.left(100)));
+        }
+        QTest::keyClick(sheets[0], Qt::Key_Escape);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(ends, 1);
+    }
 }
 
 TEST(ToolTips, ReadingSetsTheInverseAndToggles)

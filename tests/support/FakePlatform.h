@@ -3,8 +3,10 @@
 #pragma once
 
 #include "platform/Alerts.h"
+#include "platform/Clipboard.h"
 #include "platform/Defaults.h"
 #include "platform/Random.h"
+#include "platform/UrlOpener.h"
 
 #include <QHash>
 #include <QList>
@@ -67,6 +69,22 @@ public:
     std::uint32_t next() override { return numbers.isEmpty() ? 0 : numbers.takeFirst(); }
 
     QList<std::uint32_t> numbers;
+};
+
+class FakeUrlOpener : public UrlOpener
+{
+public:
+    void open(const QString &url) override { opened.append(url); }
+
+    QStringList opened;
+};
+
+class FakeClipboard : public Clipboard
+{
+public:
+    void setText(const QString &newText) override { text = newText; }
+
+    QString text;
 };
 
 } // namespace moravel::testing

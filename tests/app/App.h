@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/FakeDesktopPictures.h"
+#include "support/FakeHttp.h"
+#include "support/FakeImages.h"
+#include "support/FakeMainLoop.h"
+#include "support/FakePlatform.h"
+#include "support/HomeFiles.h"
+#include "support/TempHome.h"
+
+#include "app/MoravelAppDelegate.h"
+#include "platform/linux/PosixFiles.h"
+#include "platform/qt/QtDefaults.h"
+
+#include <QCoreApplication>
+#include <QUrlQuery>
+
+namespace moravel::testing {
+
+/// The whole application on a real disk, a virtual clock and a played service.
+class App : private Tray, private Workspace, private Notifications
+{
+public:
+    /// With a desktop, or where no desktop picture can be set.
+    explicit App(const TempHome &home, Options options = {}, bool withDesktop = false)
+        : files(home)
+        , defaults(home.path(QStringLiteral("prefs.ini")))
+        , delegate(
+              {loop, http, defaults, files, alerts, images, random},
+              withDesktop ? std::optional<DesktopPlatform>({&pictures, *this, *this, *this})
+                          : std::nullopt,
+              {urls,
+               clipboard,
+               {QStringLiteral("fb"), QStringLiteral("tw"), QStringLiteral("http://service/potd")},
+               QStringLiteral("help@makers"),
+               QStringLiteral("1.2")},
+              std::move(options))
+    {
+        http.answer = [this](const HttpRequest &request) { return serve(request); };
+        delegate.applicationWillFinishLaunching();
+        delegate.window().show();
+        loop.schedule(0, [this] { delegate.applicationDidFinishLaunching(); });
+    }
+
+    void run(double seconds)
+    {
+        for (int step = 0; step < qRound(seconds / 0.05); ++step) {
+            loop.advance(0.05);
+            while (http.deliver() || images.deliver() || pictures.deliver()) { }
+        }
+        QCoreApplication::processEvents();
+    }
+
+    std::optional<FakeHttp::Answer> serve(const HttpRequest &request)
+    {
+        const QString url = request.url.toString();
+        if (down)
+            return FakeHttp::Answer{{}, 500};
+        if (url.endsWith(QLatin1String("getSources.irev")))
+            return FakeHttp::Answer{"Astronomy\tB\nSea & Land\tA"};
+        if (request.method != "POST")
+            return FakeHttp::Answer{"IMG"};
+        const QString id =
+            QUrlQuery(QString::fromUtf8(request.body)).queryItemValue(QStringLiteral("source"));
+        return FakeHttp::Answer{
+            QStringLiteral("http://p\nCaption %1\nhttp://p/t%1.jpg\nhttp://p/%1.jpg\n\n\nInfo")
+                .arg(id)
+                .toUtf8()};
+    }
+
+    bool down = false;
+    QStringList others; ///< What the rest of the desktop was asked for.
+    FakeMainLoop loop;
+    FakeHttp http;
+    HomeFiles files;
+    QtDefaults defaults;
+    FakeAlerts alerts;
+    FakeImages images;
+    FakeRandom random;
+    FakeDesktopPictures pictures;
+    FakeUrlOpener urls;
+    FakeClipboard clipboard;
+    MoravelAppDelegate delegate;
+
+private:
+    void setImage(const QImage &) override { }
+
+    void openDesktopSettings(std::function<void(const QString &)> done) override
+    {
+        others.append(QStringLiteral("settings"));
+        done({});
+    }
+
+    void revealInFileManager(const QString &path) override { others.append(path); }
+
+    void setGrowlDelegate(NotificationsDelegate *) override { }
+
+    void notify(const Notification &) override { }
+};
+
+} // namespace moravel::testing

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "World.h"
+
+#include <gtest/gtest.h>
+
+namespace moravel {
+namespace {
+
+using testing::FakeHttp;
+using testing::TempHome;
+using testing::World;
+
+class NewsTest : public ::testing::Test
+{
+protected:
+    NewsTest()
+    {
+        w.http.answer = [this](const HttpRequest &) { return answer; };
+        w.service->news().setPorts({[this](bool visible) { button = visible; },
+                                    [this](const NewsSheet &sheet) { sheets.append(sheet); },
+                                    [this] { ++nothing; }});
+    }
+
+    /// Loads news; tells whether the button shows.
+    bool load(const FakeHttp::Answer &text)
+    {
+        answer = text;
+        w.service->news().loadNews();
+        w.run(1);
+        return button;
+    }
+
+    /// Opens the news, and returns the file of those that were read.
+    QByteArray show()
+    {
+        w.service->news().showNews();
+        w.run(1);
+        EXPECT_FALSE(button);
+        return TempHome::read(w.home.path(QStringLiteral("data/Moravel/Moravel-News.txt")));
+    }
+
+    World w;
+    FakeHttp::Answer answer;
+    bool button = false;
+    int nothing = 0;
+    QList<NewsSheet> sheets;
+};
+
+TEST_F(NewsTest, unreadNewsShowTheButtonUntilTheyAreRead)
+{
+    EXPECT_FALSE(load({" \n\t"}));
+    EXPECT_EQ(show(), ""); // nothing there: asks once more, and says so
+    EXPECT_EQ(w.http.requests.size() + nothing, 3);
+    EXPECT_TRUE(load({"\n Hello\nAll \xC3\xBC well.\n\n"}));
+    EXPECT_EQ(w.http.requests.last().url, // July 4, 2011, 9:30:02 in Berlin
+              QUrl(QStringLiteral("http://service/potd/defs/getNews.irev?timestamp=331457402")));
+    EXPECT_EQ(show(), "Hello\nAll \xC3\xBC well.");
+    EXPECT_EQ(sheets,
+              (QList<NewsSheet>{{QStringLiteral("Hello"), QString::fromUtf8("All ü well.")}}));
+    EXPECT_FALSE(load({"Hello\nAll \xC3\xBC well.\n"}));
+    for (const FakeHttp::Answer &bad :
+         {FakeHttp::Answer{{}, 500}, {{}, 200, -2, QStringLiteral("down")}, {"\xFF\xFE"}}) {
+        EXPECT_TRUE(load(bad));
+        EXPECT_EQ(show(), "Hello\nAll \xC3\xBC well."); // so that these stay read
+        EXPECT_EQ(sheets.last(), NewsSheet());
+    }
+    EXPECT_TRUE(load({"Other"}));
+}
+
+TEST_F(NewsTest, withoutAFolderTheyAreShownAndComeBack)
+{
+    w.home.write(QStringLiteral("data/Moravel"), "in the way");
+    for (int i = 1; i < 3; ++i) {
+        EXPECT_TRUE(load({"Hello"}));
+        show();
+        EXPECT_EQ(sheets.size(), i);
+    }
+    EXPECT_TRUE(w.alerts.shown.isEmpty());
+}
+
+TEST(News, titleLeavesTheBody)
+{
+    EXPECT_EQ(newsSheet(QStringLiteral("One")), (NewsSheet{QStringLiteral("One"), {}}));
+    EXPECT_EQ(newsSheet(QStringLiteral("A\r\n\nB A C\n")),
+              (NewsSheet{QStringLiteral("A"), QStringLiteral("B  C")}));
+}
+
+TEST(PageLookup, takesOneWebAddress)
+{
+    EXPECT_EQ(pageInAnswer(" https://p/1?a=b\r\n"), QStringLiteral("https://p/1?a=b"));
+    for (const char *bad : {"", "javascript:x", "http://p/\xC3\xBC", "http://p q", "<p>\nhttp://p"})
+        EXPECT_EQ(pageInAnswer(bad), QString()) << bad;
+}
+
+} // namespace
+} // namespace moravel
