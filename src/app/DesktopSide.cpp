@@ -2,6 +2,7 @@
 #include "app/DesktopSide.h"
 
 #include "app/Question.h"
+#include "app/RemoteActions.h"
 #include "service/PictureFields.h"
 
 #include <QApplication>
@@ -53,7 +54,7 @@ void DesktopSide::fillServicePorts(PictureService &service)
         return m_service.sourceNames.value(name);
     };
     m_ports.pixelSize = [this](const QString &path, std::function<void(QSize)> done) {
-        m_service.platform.images.check(path, std::move(done));
+        m_service.platform.images.size(path, std::move(done));
     };
     m_ports.fileStamp = fileStamp;
 }
@@ -127,12 +128,8 @@ void DesktopSide::showIcon(const QImage &image)
 
 void DesktopSide::activate()
 {
-    if (!m_window)
-        return;
-    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
+    if (m_window)
+        bringToFront(*m_window);
 }
 
 } // namespace moravel

@@ -60,14 +60,29 @@ void LargePicSide::addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) c
     };
 }
 
+/// The cell that the keyboard is at, else the desktop's, else the first of the grid.
+ThumbView *LargePicSide::cellToShow() const
+{
+    if (ThumbView *cell = focusedCell())
+        return cell;
+    ThumbView &desktop = m_context.cells.desktopThumb();
+    if (!desktop.picPath().isEmpty())
+        return &desktop;
+    for (const auto &cell : m_context.cells.thumbViews()) {
+        if (!cell->isHidden() && !cell->picPath().isEmpty())
+            return cell.get();
+    }
+    return nullptr;
+}
+
 void LargePicSide::attachWindow(MainWindow &window, ToolTips &toolTips)
 {
     auto *item = new QAction(MainWindow::tr("Show &Large Picture"), &window);
     item->setObjectName(QStringLiteral("largePicMenuItem"));
     item->setShortcut(Qt::CTRL | Qt::Key_L);
     QObject::connect(item, &QAction::triggered, &window, [this] {
-        ThumbView *cell = focusedCell();
-        m_largePic.showLargePic(cell ? *cell : m_context.cells.desktopThumb(), 1);
+        if (ThumbView *cell = cellToShow())
+            m_largePic.showLargePic(*cell, 1);
     });
     QMenu &menu = window.viewMenu();
     menu.insertAction(menu.actions().value(0), item);

@@ -47,6 +47,7 @@ public:
 private:
     LargePicPorts ports(PictureService &service, ShareSide &share, DesktopSide *desktop);
     void addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) const;
+    ThumbView *cellToShow() const;
 
     ServiceContext m_context;
     LargePic m_largePic;

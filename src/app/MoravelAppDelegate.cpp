@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 
+#include "app/RemoteActions.h"
+
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
@@ -187,6 +189,21 @@ void MoravelAppDelegate::switchOnAsAsked()
     for (const QString &unknown : m_grid->switchOn(*m_options.sources))
         qCWarning(lcApp).noquote() << "no source is called" << unknown;
     m_options.sources.reset();
+}
+
+void MoravelAppDelegate::switchOn(const QStringList &sources)
+{
+    m_options.sources = sources;
+    if (m_cells.count() > 0)
+        switchOnAsAsked(); // else as soon as the sources are known
+}
+
+void MoravelAppDelegate::attachRemoteControl(RemoteControl &control)
+{
+    tieRemoteControl(control,
+                     {m_platform.loop, m_desktop ? &m_desktop->management() : nullptr,
+                      [this] { bringToFront(*m_window); },
+                      [this](const QStringList &sources) { switchOn(sources); }});
 }
 
 void MoravelAppDelegate::applicationShouldTerminate()

@@ -13,6 +13,7 @@
 #include "mainwindow/SourceGrid.h"
 #include "mainwindow/ToolTips.h"
 #include "platform/Platform.h"
+#include "platform/RemoteControl.h"
 #include "service/PictureService.h"
 #include "store/LegacyCaptions.h"
 
@@ -40,6 +41,9 @@ public:
     /// Ends what must not be left half done; the application then quits.
     void applicationShouldTerminate();
 
+    /// Answers requests of other processes from now on; after applicationWillFinishLaunching().
+    void attachRemoteControl(RemoteControl &control);
+
     void showStatus(const QString &text);
 
     MainWindow &window() const { return *m_window; }
@@ -56,6 +60,7 @@ private:
     void sourcesAreKnown();
     void askForSourcesAgain();
     void switchOnAsAsked();
+    void switchOn(const QStringList &sources);
 
     Platform m_platform;
     Options m_options;

@@ -11,11 +11,12 @@ namespace moravel {
 /// What the command line asks for.
 struct Options
 {
-    enum class Action { Run, PrintVersion, PrintHelp };
+    enum class Action { Run, PrintVersion, PrintHelp, Command };
 
     Action action = Action::Run;
     /// Sources to switch on, by long name; one entry "all" means every source.
     std::optional<QStringList> sources;
+    QString command; ///< For the running program: next, previous, hold.
 };
 
 /// Reads the arguments (without the program's name). The error is one line for standard error.

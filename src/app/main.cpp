@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
+#include "app/RemoteActions.h"
 #include "app/Version.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
 #include "platform/linux/session/DBusNotifications.h"
 #include "platform/linux/session/LinuxWorkspace.h"
+#include "platform/linux/session/ProgramInstance.h"
+#include "platform/linux/session/ProgramName.h"
 #include "platform/linux/session/QtTray.h"
 #include "platform/linux/session/SessionEvents.h"
 #include "platform/qt/MessageLog.h"
@@ -26,7 +29,9 @@ namespace {
 
 using namespace moravel;
 
+constexpr int Refused = 1; // exit codes
 constexpr int UsageError = 2;
+constexpr int NotRunning = 3;
 
 // Answers that need neither a display nor a start: returns the exit code, or nothing to go on.
 std::optional<int> answeredAtOnce(const tl::expected<Options, QString> &options)
@@ -53,6 +58,34 @@ bool isQuestion(const char *argument)
             return true;
     }
     return false;
+}
+
+int exitCode(const tl::expected<void, RemoteError> &result)
+{
+    if (result)
+        return 0;
+    std::fprintf(stderr, "moravel: %s\n", qUtf8Printable(result.error().text));
+    return result.error().notRunning ? NotRunning : Refused;
+}
+
+// A command for the running program, which needs no display of its own.
+int sendCommand(int argc, char **argv)
+{
+    const QCoreApplication app(argc, argv);
+    const auto options = parseOptions(QCoreApplication::arguments().mid(1));
+    if (const auto code = answeredAtOnce(options))
+        return *code;
+    return exitCode(askRunningProgram(QDBusConnection::sessionBus(), options->command));
+}
+
+// Hands over to the program that runs already; what could not be handed over says the error.
+tl::expected<void, RemoteError> handOver(const Options &options)
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!options.sources)
+        return activateRunningProgram(bus);
+    return askRunningProgram(bus, remoteaction::Sources,
+                             QVariantList(options.sources->cbegin(), options.sources->cend()));
 }
 
 // What the desktop lends the program. The session bus may be missing; then only the pictures work.
@@ -98,6 +131,13 @@ ShareSetup shareSetup(UrlOpener &urls, Clipboard &clipboard)
 
 int runApplication(QApplication &app, const Options &options)
 {
+    ProgramInstance instance(QDBusConnection::sessionBus());
+    if (instance.claim() == ProgramInstance::Claim::Second) {
+        const auto handedOver = handOver(options);
+        const bool isEnding = !handedOver && handedOver.error().notRunning;
+        if (!isEnding || instance.claim() == ProgramInstance::Claim::Second)
+            return exitCode(handedOver);
+    }
     QtMainLoop loop;
     QtHttp http;
     QtDefaults defaults;
@@ -116,7 +156,11 @@ int runApplication(QApplication &app, const Options &options)
     alerts.setParentWindow(&delegate.window());
     delegate.window().show();
     // The window is on screen before the disk and the service are asked.
-    loop.schedule(0, [&delegate] { delegate.applicationDidFinishLaunching(); });
+    loop.schedule(0, [&] {
+        delegate.applicationDidFinishLaunching();
+        delegate.attachRemoteControl(instance);
+        instance.ready();
+    });
     return QApplication::exec();
 }
 
@@ -129,11 +173,15 @@ int main(int argc, char **argv)
         if (isQuestion(argv[i]))
             return *answeredAtOnce(parseOptions({QString::fromLocal8Bit(argv[i])}));
     }
+    for (int i = 1; i < argc; ++i) {
+        if (QByteArrayView(argv[i]).startsWith("--command"))
+            return sendCommand(argc, argv);
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("moravel"));
     QApplication::setApplicationDisplayName(QStringLiteral("Moravel"));
     QApplication::setApplicationVersion(QStringLiteral(MORAVEL_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("moravel"));
+    QApplication::setDesktopFileName(ProgramName);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/moravel/icon.svg")));
     const auto options = parseOptions(QApplication::arguments().mid(1));
     if (const auto code = answeredAtOnce(options))

@@ -121,12 +121,20 @@ void DesktopManagement::addTextToDesktop(const QString &path, const ThumbView &c
     m_overlay.addTextToDesktop(path, currentThumb);
 }
 
-QList<DockMenuItem> DesktopManagement::applicationDockMenu() const
+DockMenuState DesktopManagement::dockMenuState() const
 {
     const ThumbView &cell = m_context.cells.desktopThumb();
-    return dockMenuItems({cell.longSourceName(), cell.dateString(), cell.captionString(),
-                          m_rotation.rotateInfoText(), m_context.preferences.rotateFrequency(),
-                          !m_setter.previousDesktopPath().isEmpty()});
+    return {cell.longSourceName(),
+            cell.dateString(),
+            cell.captionString(),
+            m_rotation.rotateInfoText(),
+            m_context.preferences.rotateFrequency(),
+            !m_setter.previousDesktopPath().isEmpty()};
+}
+
+QList<DockMenuItem> DesktopManagement::applicationDockMenu() const
+{
+    return dockMenuItems(dockMenuState());
 }
 
 void DesktopManagement::run(DockCommand command)

@@ -43,9 +43,14 @@ public:
     void addTextToDesktop(const QString &path, const ThumbView &currentThumb);
 
     QList<DockMenuItem> applicationDockMenu() const;
+
+    /// Tells whether a command of the menu makes sense now.
+    bool offers(DockCommand command) const { return isOffered(command, dockMenuState()); }
+
     void run(DockCommand command);
 
 private:
+    DockMenuState dockMenuState() const;
     void setChosenDesktop(const QString &path);
 
     DesktopContext m_context;

@@ -14,9 +14,21 @@ QString translated(const char *text)
 
 } // namespace
 
+bool isOffered(DockCommand command, const DockMenuState &state)
+{
+    constexpr int Hour = 60; // minutes
+    switch (command) {
+    case DockCommand::HoldForOneHour:
+        return state.rotateFrequency < Hour;
+    case DockCommand::PreviousDesktop:
+        return state.hasPrevious;
+    default:
+        return command != DockCommand::None;
+    }
+}
+
 QList<DockMenuItem> dockMenuItems(const DockMenuState &state)
 {
-    constexpr int Hour = 60;
     if (state.longSourceName.isEmpty() || state.dateString.isEmpty()
         || state.captionString.isEmpty())
         return {};
@@ -26,10 +38,10 @@ QList<DockMenuItem> dockMenuItems(const DockMenuState &state)
         {state.captionString, DockCommand::ShowDesktopInfo},
         {},
         {state.rotateInfoText, DockCommand::None}};
-    if (state.rotateFrequency < Hour)
+    if (isOffered(DockCommand::HoldForOneHour, state))
         items.append({translated("Keep this desktop for 1 hour"), DockCommand::HoldForOneHour});
     items.append({translated("Change desktop now"), DockCommand::RotateDesktop});
-    if (state.hasPrevious)
+    if (isOffered(DockCommand::PreviousDesktop, state))
         items.append({translated("Back to previous desktop"), DockCommand::PreviousDesktop});
     return items;
 }

@@ -31,6 +31,9 @@ struct DockMenuState
     bool hasPrevious = false;
 };
 
+/// Tells whether @p command can be asked for now, in the menu or from outside.
+bool isOffered(DockCommand command, const DockMenuState &state);
+
 /// Returns the menu on the program's icon; empty while the desktop cell lacks a text.
 QList<DockMenuItem> dockMenuItems(const DockMenuState &state);
 

@@ -60,6 +60,12 @@ void CaptionLabel::setText(const QString &text)
     update();
 }
 
+void CaptionLabel::setCentred(bool centred)
+{
+    m_centred = centred;
+    update();
+}
+
 void CaptionLabel::setSecondary(bool secondary)
 {
     m_secondary = secondary;
@@ -146,8 +152,11 @@ void CaptionLabel::paintEvent(QPaintEvent *)
     }
     const bool rightToLeft = m_text.isRightToLeft();
     painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    const int flags = Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignAbsolute
-        | (rightToLeft ? Qt::AlignRight : Qt::AlignLeft);
+    const Qt::Alignment side = m_centred ? Qt::AlignHCenter
+        : rightToLeft                    ? Qt::AlignRight
+                                         : Qt::AlignLeft;
+    const int flags = static_cast<int>(Qt::TextSingleLine)
+        | static_cast<int>(Qt::AlignVCenter | Qt::AlignAbsolute | side);
     const int step = fontMetrics().lineSpacing();
     int top = 0;
     for (const QString &line : layoutFor(width(), linesThatFit()).lines) {

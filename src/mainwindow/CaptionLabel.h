@@ -22,6 +22,9 @@ public:
 
     bool isElided() const;
 
+    /// Centres the lines; without it they begin at the side where their text does.
+    void setCentred(bool centred);
+
     /// Draws in the quieter colour of secondary text.
     void setSecondary(bool secondary);
 
@@ -57,6 +60,7 @@ private:
 
     int m_maximumLines;
     bool m_secondary = false;
+    bool m_centred = false;
     QString m_placeholder;
     QString m_text;
     mutable int m_layoutWidth = -1;

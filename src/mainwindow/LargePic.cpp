@@ -69,7 +69,7 @@ void LargePic::showAgain(ThumbView &cell)
 
 QString LargePic::fileOf(const ThumbView &cell) const
 {
-    const QString link = cell.picPath();
+    QString link = cell.picPath();
     if (cell.tag() == ThumbView::DesktopTag)
         return link; // a path already
     return m_context.links.picLinkToPath(link, false, false);

@@ -72,6 +72,9 @@ public:
     LargePic(const LargePicContext &context, LargePicPorts ports);
     ~LargePic() override;
 
+    /// For what is tied later: a port counts from the first picture on.
+    LargePicPorts &ports() { return m_ports; }
+
     /// The user wants to see the picture of a cell: the window comes to the front. Two clicks on a deleted
     /// one restore it.
     void showLargePic(ThumbView &cell, int clickCount);

@@ -66,6 +66,7 @@ LargePicActions::LargePicActions(QWidget *window, const LargePicCommands &comman
                      [&view] { view.zoomToFit(); });
     actualSize = make(window, QT_TR_NOOP("&Actual Size"), nullptr, {Qt::CTRL | Qt::Key_1},
                       [&view] { view.zoomToActualSize(); });
+    fullScreen = make(window, QT_TR_NOOP("Full Sc&reen"), nullptr, {Qt::Key_F11}, [] {});
     close = make(window, QT_TR_NOOP("&Close"), nullptr, {Qt::Key_Escape, Qt::CTRL | Qt::Key_W},
                  closeWindow);
 }
@@ -76,7 +77,8 @@ QMenu *LargePicActions::makeMenu(QWidget *parent) const
     menu->setAttribute(Qt::WA_DeleteOnClose);
     using Group = QList<QAction *>;
     for (const Group &group :
-         {Group{previous, next}, Group{zoomIn, zoomOut, zoomToFit, actualSize, standardSize},
+         {Group{previous, next},
+          Group{zoomIn, zoomOut, zoomToFit, actualSize, standardSize, fullScreen},
           Group{showParent, setDesktop, showInFinder}, Group{email, facebook, twitter},
           Group{deletePic, close}}) {
         menu->addActions(group);

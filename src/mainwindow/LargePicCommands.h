@@ -51,6 +51,7 @@ struct LargePicActions
     QAction *zoomOut;
     QAction *zoomToFit;
     QAction *actualSize;
+    QAction *fullScreen; ///< For the window to carry out.
     QAction *close;
 };
 

@@ -48,16 +48,11 @@ std::optional<int> nextPosition(const StepCells &cells)
     int position = cells.position;
     for (int step = 0; step < mostSteps(cells); ++step) {
         ++position;
-        if (position == Desktop + 1) {
-            position = 0;
-        } else if (position < countOf(cells)) {
-            if (position == Desktop)
-                return Desktop;
-        } else if (cells.desktop) {
+        const bool isAtEnd = position >= countOf(cells) && position != Desktop + 1;
+        if ((isAtEnd && cells.desktop) || (!isAtEnd && position == Desktop))
             return Desktop;
-        } else {
+        if (isAtEnd || position == Desktop + 1) // from the last cell, or from the desktop's
             position = 0;
-        }
         if (canShow(cells, position))
             return position;
     }

@@ -20,6 +20,9 @@ namespace {
 
 constexpr int Margin =
     LargeImageView::SideMargin; // texts and buttons stand below the picture's edges
+constexpr int ButtonSize = 30;
+constexpr int IconInset = 9; // from the edge of a button to its icon
+constexpr int TextInset = 4; // the same, of a button with a text
 constexpr QSize StartSize(920, 780);
 constexpr int StartTextHeight = 216;
 constexpr int NoticeWidth = 420;
@@ -48,12 +51,12 @@ QRect ontoScreen(QRect frame, const QRect &screen)
 
 } // namespace
 
-LargePicWindow::LargePicWindow(Images &images, const LargePicCommands &commands)
-    : m_commands(commands)
+LargePicWindow::LargePicWindow(Images &images, LargePicCommands commands)
+    : m_commands(std::move(commands))
     , m_largeImage(new LargeImageView(images, this))
     , m_picDetails(new PicDetails(this))
     , m_actions(
-          this, m_commands, *m_largeImage, [this] { toggleStandardFrame(); }, [this] { close(); })
+          this, m_commands, *m_largeImage, [this] { toggleStandardFrame(); }, [this] { leave(); })
     , m_splitter(new QSplitter(Qt::Vertical, this))
 {
     setObjectName(QStringLiteral("pic"));
@@ -61,6 +64,8 @@ LargePicWindow::LargePicWindow(Images &images, const LargePicCommands &commands)
     buildNotices();
     m_splitter->addWidget(m_largeImage);
     m_splitter->addWidget(buildTexts());
+    connect(m_actions.fullScreen, &QAction::triggered, this,
+            [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setStretchFactor(1, 0);
     m_splitter->setChildrenCollapsible(false);
@@ -110,19 +115,27 @@ QWidget *LargePicWindow::buildTexts()
     type.setPointSizeF(fontInfo().pointSizeF() * 1.1);
     type.setWeight(QFont::DemiBold);
     m_captionField->setFont(type);
+    auto *label = new QVBoxLayout;
+    label->setContentsMargins(0, (ButtonSize - m_captionField->minimumSizeHint().height()) / 2, 0,
+                              0);
+    label->addWidget(m_captionField, 1); // its first line is level with the arrows
     auto *caption = new QHBoxLayout;
+    caption->setContentsMargins(Margin, 0, Margin - IconInset, 0);
     caption->setSpacing(2);
-    caption->addWidget(m_captionField, 1);
+    caption->addLayout(label, 1);
     caption->addSpacing(12);
     caption->addWidget(makeButton(QStringLiteral("previousButton"), m_actions.previous), 0,
                        Qt::AlignTop);
     caption->addWidget(makeButton(QStringLiteral("nextButton"), m_actions.next), 0, Qt::AlignTop);
     m_picDetails->setMinimumHeight(48);
+    auto *text = new QHBoxLayout;
+    text->setContentsMargins(Margin, 0, Margin, 0);
+    text->addWidget(m_picDetails);
     auto *column = new QVBoxLayout(panel);
-    column->setContentsMargins(Margin, 6, Margin, 10);
-    column->setSpacing(8);
+    column->setContentsMargins(0, 4, 0, 8);
+    column->setSpacing(6);
     column->addLayout(caption);
-    column->addWidget(m_picDetails, 1);
+    column->addLayout(text, 1);
     column->addWidget(buildButtons());
     return panel;
 }
@@ -131,7 +144,7 @@ QWidget *LargePicWindow::buildButtons()
 {
     auto *bar = new QWidget;
     auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(Margin - TextInset, 0, Margin - IconInset, 0);
     row->setSpacing(4);
     m_parentButton = makeButton(QStringLiteral("parentButton"), m_actions.showParent, true);
     connect(m_actions.showParent, &QAction::changed, m_parentButton, // the action has set its own
@@ -158,8 +171,13 @@ QToolButton *LargePicWindow::makeButton(const QString &objectName, QAction *acti
     button->setAccessibleName(action->toolTip());
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAutoRaise(true);
-    button->setMinimumSize(30, 30);
     button->setToolButtonStyle(withText ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
+    if (withText) { // a little apart from its icon
+        button->setFixedHeight(ButtonSize);
+        action->setIconText(u' ' + action->iconText());
+    } else {
+        button->setFixedSize(ButtonSize, ButtonSize);
+    }
     return button;
 }
 
@@ -176,12 +194,12 @@ void LargePicWindow::setCaption(const QString &text)
     m_largeImage->setAccessibleName(text);
 }
 
-void LargePicWindow::setParentIcon(const QIcon &icon)
+void LargePicWindow::setParentIcon(const QIcon &icon) const
 {
     m_actions.showParent->setIcon(icon);
 }
 
-void LargePicWindow::setEmailIcon(const QIcon &icon)
+void LargePicWindow::setEmailIcon(const QIcon &icon) const
 {
     m_actions.email->setIcon(icon);
 }
@@ -198,12 +216,12 @@ void LargePicWindow::showParentButton(bool shown)
     m_parentButton->setVisible(shown);
 }
 
-void LargePicWindow::enableParentButton(bool enabled)
+void LargePicWindow::enableParentButton(bool enabled) const
 {
     m_actions.showParent->setEnabled(enabled && m_commands.showParent);
 }
 
-void LargePicWindow::enableSharing(bool enabled)
+void LargePicWindow::enableSharing(bool enabled) const
 {
     m_actions.deletePic->setEnabled(enabled && m_commands.deletePic);
     m_actions.email->setEnabled(enabled && m_commands.shareEmail);
@@ -263,6 +281,21 @@ void LargePicWindow::toggleStandardFrame()
     const int top = std::min(picture, height() - rest);
     m_splitter->setSizes({top, height() - top - m_splitter->handleWidth()});
     m_largeImage->zoomToFit();
+}
+
+void LargePicWindow::leave()
+{
+    if (isFullScreen())
+        setWindowState(windowState() & ~Qt::WindowFullScreen);
+    else
+        close();
+}
+
+void LargePicWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        m_splitter->widget(1)->setVisible(!isFullScreen()); // nothing but the picture
 }
 
 void LargePicWindow::applyFrame(const QRect &frame)

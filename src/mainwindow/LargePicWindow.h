@@ -25,20 +25,20 @@ class LargePicWindow : public QWidget
     Q_OBJECT
 
 public:
-    LargePicWindow(Images &images, const LargePicCommands &commands);
+    LargePicWindow(Images &images, LargePicCommands commands);
 
     LargeImageView &largeImage() const { return *m_largeImage; }
 
     PicDetails &picDetails() const { return *m_picDetails; }
 
     void setCaption(const QString &text);
-    void setParentIcon(const QIcon &icon);
-    void setEmailIcon(const QIcon &icon);
+    void setParentIcon(const QIcon &icon) const;
+    void setEmailIcon(const QIcon &icon) const;
     void setParentToolTip(const QString &toolTip);
     void showParentButton(bool shown);
-    void enableParentButton(bool enabled);
+    void enableParentButton(bool enabled) const;
     /// Enables the buttons that are only for pictures of a source: delete, e-mail, Facebook, Twitter.
-    void enableSharing(bool enabled);
+    void enableSharing(bool enabled) const;
     void showCantShow(bool shown);
     /// Per cent of the bytes; nothing means an unknown length, without a text.
     void showProgress(std::optional<float> percent, const QString &text);
@@ -52,6 +52,7 @@ public:
     std::function<void()> onClosed;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
 
@@ -62,6 +63,7 @@ private:
     QToolButton *makeButton(const QString &objectName, QAction *action, bool withText = false);
     void setStartSize();
     void applyFrame(const QRect &frame);
+    void leave();
 
     LargePicCommands m_commands;
     LargeImageView *m_largeImage;

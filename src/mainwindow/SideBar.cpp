@@ -56,6 +56,7 @@ SideBar::SideBar(ThumbView &desktopThumb, DatePicker &datePicker, const DateActi
 {
     setObjectName(QStringLiteral("sideBar"));
     m_nextChange->setObjectName(QStringLiteral("nextChange"));
+    m_nextChange->setCentred(true);
     m_nextChange->hide();
     m_keepButton->setObjectName(QStringLiteral("keepButton"));
     m_keepButton->hide();

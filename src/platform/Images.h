@@ -45,6 +45,10 @@ public:
     /// Tells whether the file is a complete, decodable picture, and its pixel size (empty if not).
     virtual void check(const QString &path, std::function<void(QSize)> done) = 0;
 
+    /// Tells the upright pixel size that the picture's head announces (empty if it is no picture). The rest
+    /// of the file is not looked at.
+    virtual void size(const QString &path, std::function<void(QSize)> done) = 0;
+
     /// Tells whether files with this extension (no dot, any case) are pictures that can be read.
     virtual bool isImageExtension(const QString &extension) const = 0;
 

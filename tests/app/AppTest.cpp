@@ -3,6 +3,7 @@
 #include "App.h"
 
 #include "mainwindow/CaptionLabel.h"
+#include "mainwindow/LargePicWindow.h"
 
 #include <QAbstractButton>
 #include <QDir>
@@ -116,6 +117,41 @@ TEST_F(AppTest, leftOversGoAtTheStartAndHalfDownloadsAtTheEnd)
     EXPECT_TRUE(folder.entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
+TEST_F(AppTest, largePictureFollowsItsDownloadAndHoldsTheSequenceForItsPage)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    bool slow = true;
+    app.http.answer = [&](const HttpRequest &request) -> std::optional<FakeHttp::Answer> {
+        return slow && request.url.fileName() == u"A.jpg" ? std::nullopt : app.serve(request);
+    };
+    app.run(20);
+    ThumbView &cell = app.delegate.cells().at(0);
+    cell.showThumbLarge();
+    LargePic &large = app.delegate.largePic();
+    ASSERT_TRUE(large.isVisible());
+    const auto part = [&large](const char *name) {
+        return large.pic()->findChild<QWidget *>(QLatin1String(name));
+    };
+    EXPECT_TRUE(part("progress")->isVisible());
+    EXPECT_EQ(large.pic()->picDetails().toPlainText(), QStringLiteral("Info"));
+    slow = false;
+    app.delegate.applicationShouldTerminate(); // ends the download that hangs
+    cell.showThumbLarge();
+    app.run(2);
+    EXPECT_FALSE(part("progress")->isVisible());
+    EXPECT_FALSE(large.pic()->largeImage().image().isNull());
+
+    cell.setParentPath({});
+    large.showParent();
+    EXPECT_TRUE(app.loop.isHeld());
+    EXPECT_FALSE(part("parentButton")->isEnabled());
+    app.run(1);
+    EXPECT_FALSE(app.loop.isHeld());
+    EXPECT_TRUE(part("parentButton")->isEnabled());
+}
+
 TEST(Options, commandLine)
 {
     const auto parse = [](const char *line) {
@@ -127,7 +163,10 @@ TEST(Options, commandLine)
     EXPECT_EQ(*parse("--sources|all")->sources, QStringList{QStringLiteral("all")});
     EXPECT_EQ(*parse("--sources=One, Two words")->sources,
               (QStringList{QStringLiteral("One"), QStringLiteral("Two words")}));
+    EXPECT_EQ(parse("--command=next")->command, QStringLiteral("next"));
+    EXPECT_EQ(parse("--command|hold")->action, Options::Action::Command);
     EXPECT_FALSE(parse("--sources"));
+    EXPECT_FALSE(parse("--command="));
     EXPECT_FALSE(parse("--frobnicate"));
     EXPECT_FALSE(parse("file.jpg"));
 }

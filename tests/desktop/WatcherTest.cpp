@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 
 namespace moravel::testing {
 
@@ -156,6 +157,25 @@ TEST_F(Watching, waitsWhileTheDesktopTakesAPicture)
     world.run(1);
     EXPECT_EQ(cell.picPath(), sun);
     EXPECT_EQ(world.pictures.sets.size(), 1);
+}
+
+TEST_F(Watching, tenThousandLooksLeaveNothingInMemory)
+{
+    const QString foreign = world.home.write(QStringLiteral("else/my_cat.jpg"), "IMG");
+    start(moon);
+    for (const QString &shown : {moon, foreign, world.home.path() + u'/'}) {
+        SCOPED_TRACE(qPrintable(shown));
+        world.show(shown);
+        std::size_t before = 0;
+        for (int tenth = 0; tenth <= 10; ++tenth) {
+            world.run(500); // a thousand ticks
+            world.tiles.clear();
+            if (tenth == 0) // caches are full
+                before = ::mallinfo2().uordblks;
+        }
+        constexpr std::size_t Slack = 16 * 1024; // bytes: less than two a tick
+        EXPECT_LT(::mallinfo2().uordblks, before + Slack);
+    }
 }
 
 TEST_F(Watching, commandsOfTheCells)

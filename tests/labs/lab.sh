@@ -38,7 +38,7 @@ background() { local name=$1; shift; "$@" >"$lab/$name.log" 2>&1 & pids+=($!); }
 waitfor() {
   local end=$((SECONDS + $1)); shift
   until "$@" >/dev/null 2>&1; do
-    [ "$SECONDS" -lt "$end" ] || { echo "lab: gave up on: $*" >&2; tail -n 20 "$lab"/*.log >&2; exit 1; }
+    [ "$SECONDS" -lt "$end" ] || { echo "lab: gave up on: $*" >&2; tail -n 20 "$LAB"/*.log >&2; exit 1; }
     sleep 0.1
   done
 }
@@ -47,6 +47,23 @@ bus() {
   local answer
   answer=$(dbus-daemon --session --fork --print-address=1 --print-pid=1)
   export DBUS_SESSION_BUS_ADDRESS=${answer%%$'\n'*}
+  pids+=("${answer##*$'\n'}")
+}
+
+# owner NAME: who has a name on the bus.
+owner() { gdbus call --session -d org.freedesktop.DBus -o / -m org.freedesktop.DBus.GetNameOwner "$1"; }
+
+another_owner() { local now; now=$(owner "$1") && [ "$now" != "$2" ]; }
+
+# A system bus with nobody on it: some shells do not start without one.
+system_bus() {
+  cat >"$lab/system.conf" <<X
+<busconfig><type>system</type><listen>unix:path=$lab/run/system</listen><auth>EXTERNAL</auth>
+<policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy></busconfig>
+X
+  local answer
+  answer=$(dbus-daemon --config-file="$lab/system.conf" --fork --print-address=1 --print-pid=1)
+  export DBUS_SYSTEM_BUS_ADDRESS=${answer%%$'\n'*}
   pids+=("${answer##*$'\n'}")
 }
 
@@ -88,4 +105,10 @@ X
     outputs+=(--output "DUMMY$i" --mode 800x600 --pos $((i * 800))x0)
   done
   xrandr "${outputs[@]}" --output DUMMY0 --primary
+}
+
+# side_by_side: the two screens in place. Some window managers lay them out anew when they start.
+side_by_side() {
+  xrandr --output DUMMY0 --mode 800x600 --pos 0x0 --primary --output DUMMY1 --mode 800x600 --pos 800x0
+  [ "$(xrandr | grep -cE '^DUMMY(0 connected primary 800x600[+]0|1 connected 800x600[+]800)[+]0 ')" = 2 ]
 }

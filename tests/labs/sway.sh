@@ -15,5 +15,5 @@ X
 as_user=(); [ "$(id -u)" -ne 0 ] || as_user=(unshare -U --map-user=1000 --map-group=1000)
 background sway "${as_user[@]}" sway -c "$lab/sway.conf"
 waitfor 10 grep -q ^SWAYSOCK= "$lab/sway.env"
-export $(grep -E '^(WAYLAND_DISPLAY|SWAYSOCK)=' "$lab/sway.env") QT_QPA_PLATFORM=wayland
+export $(grep -E '^(WAYLAND_DISPLAY|SWAYSOCK)=' "$lab/sway.env") QT_QPA_PLATFORM=wayland LAB_SHOT=grim
 "$@"

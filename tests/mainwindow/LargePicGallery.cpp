@@ -82,6 +82,8 @@ void shootLargePic(const QString &prefix)
 {
     const QString name = prefix + QStringLiteral("large-");
     Shooting s;
+    s.show(s.cell(QStringLiteral("none.jpg"), Caption, {}));
+    s.window().picDetails().clear();
     s.f.large.showProgress(41,
                            QStringLiteral("Downloading pic from Astronomy Picture of the Day: "
                                           "976 of 2383 KB"));
@@ -92,6 +94,7 @@ void shootLargePic(const QString &prefix)
     s.show(s.cell(QStringLiteral("wide.jpg")));
     save(s.window(), name + QStringLiteral("picture"));
     s.window().largeImage().zoomTo(0.7);
+    QApplication::setActiveWindow(&s.window());
     s.f.find("setDesktopBtn")->setFocus(Qt::TabFocusReason);
     QTest::qWait(600);
     save(s.window(), name + QStringLiteral("zoomed"));
@@ -114,7 +117,8 @@ void shootLargePic(const QString &prefix)
         QStringLiteral("wide.jpg"),
         QStringLiteral("Donaudampfschifffahrtsgesellschaftskapit\u00e4nsm\u00fctzenabzeichen am "
                        "Ufer des Flusses bei Sonnenuntergang")));
-    g.window().resize(g.window().minimumSizeHint().width(), 640);
+    g.window().resize(g.window().minimumSizeHint().width(), 700); // as narrow as it can be
+    QTest::qWait(600);
     save(g.window(), name + QStringLiteral("german"));
     QApplication::removeTranslator(&german);
 }

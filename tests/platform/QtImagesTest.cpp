@@ -123,6 +123,14 @@ protected:
         return result.value_or(QSize(-1, -1));
     }
 
+    QSize announced(const QByteArray &bytes)
+    {
+        std::optional<QSize> result;
+        images.size(home.write(QStringLiteral("head"), bytes), [&](QSize size) { result = size; });
+        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
+        return result.value_or(QSize(-1, -1));
+    }
+
     QSize check(const QByteArray &bytes)
     {
         return check(home.write(QStringLiteral("picture.jpg"), bytes));
@@ -162,6 +170,7 @@ TEST_F(QtImagesTest, ChecksCompletePicturesAndRefusesEveryCut)
     for (const auto &[name, bytes] : pictures) {
         SCOPED_TRACE(name);
         EXPECT_EQ(check(bytes), Size);
+        EXPECT_EQ(announced(bytes), Size);
         EXPECT_EQ(load(bytes, {1000, 1000}).size(), Size);
         const qsizetype step = bytes.size() / 25 + 1;
         for (qsizetype length = 0; length < bytes.size(); length += step) {
@@ -257,6 +266,8 @@ TEST_F(QtImagesTest, FitsTheBoxUprightAndNeverEnlarges)
         EXPECT_EQ(load(fit.bytes, fit.box).size(), fit.expected);
     }
     EXPECT_EQ(check(turnedJpeg()), Size.transposed());
+    EXPECT_EQ(announced(turnedJpeg()), Size.transposed());
+    EXPECT_EQ(announced(jpeg.left(jpeg.size() / 2)), QSize(400, 200));
 }
 
 TEST_F(QtImagesTest, AnswersEachCallOnceAndNoneWhenDestroyed)

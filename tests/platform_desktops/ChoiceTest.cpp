@@ -35,6 +35,7 @@ TEST(DesktopChoice, takesTheFirstKnownName)
     for (const auto &row : table)
         EXPECT_EQ(chooseDesktop({QString::fromLatin1(row.names), row.wayland, row.x11}), row.kind)
             << row.names;
+    EXPECT_EQ(chooseDesktop({QStringLiteral("XFCE"), false, true, true}), DesktopKind::Portal);
 }
 
 } // namespace

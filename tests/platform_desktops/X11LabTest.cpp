@@ -8,11 +8,6 @@ namespace {
 
 using X11Lab = DesktopLab;
 
-int run(const QString &program, const QStringList &arguments)
-{
-    return QProcess::execute(program, arguments);
-}
-
 TEST_F(X11Lab, setsOneScreenAndBoth)
 {
     setsOneScreenAndBoth();

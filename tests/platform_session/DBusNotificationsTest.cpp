@@ -96,7 +96,7 @@ TEST_F(DBusNotificationsTest, postsWhatTheServiceCanShow)
         MORAVEL_WAIT(daemon.shown.size() == 2);
         EXPECT_EQ(daemon.asked, 1);
         const FakeDaemon::Shown &shown = daemon.shown.last();
-        EXPECT_EQ(shown.application, QStringLiteral("moravel"));
+        EXPECT_EQ(shown.application, QStringLiteral("Moravel"));
         EXPECT_EQ(shown.icon, QStringLiteral("moravel"));
         EXPECT_EQ(shown.title, QStringLiteral("A & B"));
         EXPECT_EQ(shown.body, row.body);

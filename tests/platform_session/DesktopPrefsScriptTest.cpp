@@ -76,7 +76,7 @@ TEST(DesktopPrefsScript, opensTheSettingsOfTheRunningDesktop)
         {"xfce", "xfdesktop-settings nitrogen", "xfdesktop-settings"},
         {"X-Cinnamon", "cinnamon-settings", "cinnamon-settings backgrounds"},
         {"MATE", "mate-appearance-properties", "mate-appearance-properties --show-page=background"},
-        {"LXQt", "pcmanfm-qt lxqt-config-appearance", "pcmanfm-qt --desktop-pref=general"},
+        {"LXQt", "pcmanfm-qt lxqt-config-appearance", "pcmanfm-qt --desktop-pref=bg"},
         {"LXQt", "lxqt-config-appearance", "lxqt-config-appearance"},
         {"LXDE", "pcmanfm", "pcmanfm --desktop-pref"},
         {"sway", "waypaper", "waypaper"},

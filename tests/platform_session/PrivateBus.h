@@ -50,6 +50,8 @@ public:
         return QDBusConnection::connectToBus(m_address, m_names.last());
     }
 
+    QString address() const { return m_address; }
+
     /// Returns when the bus has passed on all that @p sender sent before.
     static void flush(const QDBusConnection &sender)
     {

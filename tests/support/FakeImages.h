@@ -51,6 +51,11 @@ public:
         m_waiting.push_back([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
     }
 
+    void size(const QString &path, std::function<void(QSize)> done) override
+    {
+        check(path, std::move(done));
+    }
+
     bool isImageExtension(const QString &extension) const override
     {
         return QStringList{QStringLiteral("jpg"), QStringLiteral("png")}.contains(

@@ -116,6 +116,12 @@ DecodedPicture decodePicture(const QString &path, QSize box, const std::atomic<b
     return {image, picture.uprightSize()};
 }
 
+QSize announcedPictureSize(const QString &path, const std::atomic<bool> &stop)
+{
+    const Picture picture(path, stop);
+    return picture.isOfUsableSize() ? picture.uprightSize() : QSize();
+}
+
 QSize completePictureSize(const QString &path, const std::atomic<bool> &stop)
 {
     Picture picture(path, stop);

@@ -38,6 +38,9 @@ private:
 /// none. For worker threads; @p stop makes it give up.
 DecodedPicture decodePicture(const QString &path, QSize box, const std::atomic<bool> &stop);
 
+/// The upright pixel size of the picture at @p path as its head tells, else empty. Decodes nothing.
+QSize announcedPictureSize(const QString &path, const std::atomic<bool> &stop);
+
 /// The upright pixel size of the picture at @p path when it is complete and decodable, else empty.
 QSize completePictureSize(const QString &path, const std::atomic<bool> &stop);
 

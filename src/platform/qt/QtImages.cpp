@@ -137,6 +137,11 @@ void QtImages::check(const QString &path, std::function<void(QSize)> done)
         m_pool, [this, path] { return completePictureSize(path, m_stop); }, std::move(done));
 }
 
+void QtImages::size(const QString &path, std::function<void(QSize)> done)
+{
+    run<QSize>([this, path] { return announcedPictureSize(path, m_stop); }, std::move(done));
+}
+
 bool QtImages::isImageExtension(const QString &extension) const
 {
     return pictureformat::isExtension(extension);

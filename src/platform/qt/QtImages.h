@@ -29,6 +29,7 @@ public:
     DecodingHandle decode(const QString &path, QSize box,
                           std::function<void(DecodedPicture)> done) override;
     void check(const QString &path, std::function<void(QSize)> done) override;
+    void size(const QString &path, std::function<void(QSize)> done) override;
     bool isImageExtension(const QString &extension) const override;
     QImage resource(const QString &name) const override;
 

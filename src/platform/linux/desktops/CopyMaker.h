@@ -19,6 +19,7 @@ struct CopyOrder
     DesktopScaling scaling = DesktopScaling::Fill;
     QString folder; ///< Made when it is missing.
     int version = 0; ///< Another one gives another name.
+    bool link = false; ///< Where no copy is worth it, a symbolic link takes its place.
 };
 
 /// Makes the copy unless it is there, and returns its file name in the folder. The name changes with

@@ -30,12 +30,13 @@ struct SessionFacts
         currentDesktop; ///< XDG_CURRENT_DESKTOP: names with colons between, the most special first.
     bool isWayland = false;
     bool hasX11 = false;
+    bool isSandboxed = false; ///< Flatpak or Snap: the desktop's own settings are out of reach.
 };
 
 /// The facts of this process's environment.
 SessionFacts sessionFacts();
 
-/// Chooses by the first name that is known, in any case of letters. Without one: the root window where
+/// The portal in a sandbox. Else chooses by the first name that is known, in any case of letters. Without one: the root window where
 /// the session is one of X, else the portal.
 DesktopKind chooseDesktop(const SessionFacts &session);
 

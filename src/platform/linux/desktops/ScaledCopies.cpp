@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace moravel {
@@ -41,7 +42,8 @@ QList<QSize> toScreens(const QJsonArray &array)
 
 } // namespace
 
-ScaledCopies::ScaledCopies(const QString &folder) : m_folder(QDir::cleanPath(folder))
+ScaledCopies::ScaledCopies(const QString &folder, bool plainNames)
+    : m_folder(QDir::cleanPath(folder)), m_plainNames(plainNames)
 {
     m_pool.setMaxThreadCount(1);
     load();
@@ -57,7 +59,13 @@ ScaledCopies::~ScaledCopies()
 void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                            DesktopScaling scaling, std::function<void(QString)> done)
 {
-    const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture)};
+    static const QRegularExpression special(QStringLiteral("[%#?]"));
+    const CopyOrder order{picture,
+                          screens,
+                          scaling,
+                          m_folder,
+                          versionFor(picture),
+                          m_plainNames && picture.contains(special)};
     m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {

@@ -3,6 +3,7 @@
 
 #include "platform/linux/session/Log.h"
 #include "platform/linux/session/NotificationPicture.h"
+#include "platform/linux/session/ProgramName.h"
 
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
@@ -16,7 +17,7 @@ namespace {
 const QString Service = QStringLiteral("org.freedesktop.Notifications");
 const QString Path = QStringLiteral("/org/freedesktop/Notifications");
 const QString DefaultAction = QStringLiteral("default");
-const QString Application = QStringLiteral("moravel"); // also its icon and its .desktop file
+const QString Application = QStringLiteral("Moravel"); // shown to the user by some services
 
 constexpr int UntilClosed = 0; // values of expire_timeout
 constexpr int AsTheServiceLikes = -1;
@@ -125,7 +126,7 @@ void DBusNotifications::send(const Waiting &waiting)
     const Notification &notification = waiting.notification;
     QVariantMap hints{
         {QStringLiteral("urgency"), QVariant::fromValue(urgency(notification.priority))},
-        {QStringLiteral("desktop-entry"), Application}};
+        {QStringLiteral("desktop-entry"), ProgramName}};
     if (!waiting.picture.isNull())
         hints[QStringLiteral("image-data")] =
             QVariant::fromValue(NotificationPicture::fromImage(waiting.picture));
@@ -134,7 +135,7 @@ void DBusNotifications::send(const Waiting &waiting)
     if (clickable)
         actions << DefaultAction << notificationTitle(notification.clickLabel);
     QDBusMessage message = methodCall(QStringLiteral("Notify"));
-    message << Application << uint(0) << Application << notificationTitle(notification.title)
+    message << Application << uint(0) << ProgramIcon << notificationTitle(notification.title)
             << notificationBody(notification.description, m_bodyFormat) << actions << hints
             << (notification.sticky ? UntilClosed : AsTheServiceLikes);
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);

@@ -1,0 +1,2 @@
+// SPDX-License-Identifier: MIT
+// Nothing: the target exists for its precompiled headers.
