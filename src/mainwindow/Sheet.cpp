@@ -78,7 +78,7 @@ CaptionLabel *makeTitle(const QString &title, QWidget *parent)
     QFont bold = label->font();
     bold.setBold(true);
     label->setFont(bold);
-    label->setText(title);
+    label->setText(title.trimmed());
     label->setFixedSize(TextWidth, label->heightForWidth(TextWidth));
     return label;
 }

@@ -31,6 +31,13 @@ protected:
         app.run(20);
     }
 
+    static Options allSources()
+    {
+        Options options;
+        options.sources = QStringList{QStringLiteral("all")};
+        return options;
+    }
+
     static QString plain(const QAction &item) { return item.text().remove(u'&'); }
 
     /// Chooses "Menu/Item" by moving down to it with the keyboard.
@@ -64,7 +71,7 @@ protected:
     }
 
     TempHome home;
-    App app{home, {Options::Action::Run, QStringList{QStringLiteral("all")}}, true};
+    App app{home, allSources(), true};
     MainWindow &window = app.delegate.window();
 };
 

@@ -5,26 +5,43 @@
 display 1
 bus
 export OPENED=$lab/opened
-mkdir -p "$XDG_DATA_HOME/applications"
+# For all users: the test has a home of its own.
+export XDG_DATA_DIRS=$lab/share:$XDG_DATA_DIRS XDG_CONFIG_DIRS=$lab/etc:$XDG_CONFIG_DIRS
+mkdir -p "$lab/share/applications" "$lab/etc"
 cat >"$lab/record" <<X
 #!/bin/sh
 printf '%s\n' "\$1" >>"$OPENED"
 X
 chmod +x "$lab/record"
-cat >"$XDG_DATA_HOME/applications/record.desktop" <<X
+cat >"$lab/share/applications/record.desktop" <<X
 [Desktop Entry]
 Type=Application
 Name=Recorder
 Exec=$lab/record %u
 MimeType=x-scheme-handler/http;x-scheme-handler/https;x-scheme-handler/mailto;
 X
-cat >"$XDG_CONFIG_HOME/mimeapps.list" <<X
+cat >"$lab/etc/mimeapps.list" <<X
 [Default Applications]
 x-scheme-handler/http=record.desktop
 x-scheme-handler/https=record.desktop
 x-scheme-handler/mailto=record.desktop
 X
-update-desktop-database "$XDG_DATA_HOME/applications"
+# XFCE looks for programs of its own list.
+mkdir -p "$lab/share/xfce4/helpers" "$lab/etc/xfce4"
+for kind in WebBrowser MailReader; do
+  cat >"$lab/share/xfce4/helpers/record-$kind.desktop" <<X
+[Desktop Entry]
+Type=X-XFCE-Helper
+Version=1.0
+Name=Recorder
+X-XFCE-Category=$kind
+X-XFCE-Binaries=record;
+X-XFCE-Commands=$lab/record;
+X-XFCE-CommandsWithParameter=$lab/record "%s";
+X
+  echo "$kind=record-$kind" >>"$lab/etc/xfce4/helpers.rc"
+done
+update-desktop-database "$lab/share/applications"
 # Each desktop has an opener of its own behind xdg-open.
 export KDE_SESSION_VERSION=5
 for desktop in X-Generic GNOME XFCE KDE; do
