@@ -41,7 +41,8 @@ QList<QSize> toScreens(const QJsonArray &array)
 
 } // namespace
 
-ScaledCopies::ScaledCopies(const QString &folder) : m_folder(QDir::cleanPath(folder))
+ScaledCopies::ScaledCopies(const QString &folder, bool cuts)
+    : m_folder(QDir::cleanPath(folder)), m_cuts(cuts)
 {
     m_pool.setMaxThreadCount(1);
     load();
@@ -57,7 +58,7 @@ ScaledCopies::~ScaledCopies()
 void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                            DesktopScaling scaling, std::function<void(QString)> done)
 {
-    const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture)};
+    const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture), m_cuts};
     m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {
