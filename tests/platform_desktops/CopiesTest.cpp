@@ -73,6 +73,15 @@ TEST(CopyPlan, showsTheSameOnEveryScreen)
     }
 }
 
+TEST(CopyPlan, cutsInTheShapeOfTheScreen)
+{
+    const QSize screen(800, 600);
+    EXPECT_EQ(planCut({1600, 200}, screen), (CopyPlan{{4800, 600}, {2000, 0, 800, 600}}));
+    EXPECT_EQ(planCut({300, 2000}, screen), (CopyPlan{{800, 5333}, {0, 2367, 800, 600}}));
+    EXPECT_EQ(planCut({4000, 3000}, screen), std::nullopt);
+    EXPECT_EQ(planCut({}, screen), std::nullopt);
+}
+
 class Copies : public ::testing::Test
 {
 protected:

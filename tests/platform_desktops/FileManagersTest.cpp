@@ -110,7 +110,7 @@ protected:
 TEST_F(FileManager, isAskedOnceForEachPictureInTurn)
 {
     install("true");
-    FileManagerPictures desktop(lxqt(), m_home.path());
+    FileManagerPictures desktop(lxqt(), m_home.path(), m_home.path());
     EXPECT_EQ(desktop.desktopImageUrl({}), u"file://localhost/first");
     const QString one = m_home.write(QStringLiteral("--one 'x'.png"), "1");
     const QString two = m_home.write(QStringLiteral("two.png"), "2");
@@ -118,7 +118,7 @@ TEST_F(FileManager, isAskedOnceForEachPictureInTurn)
               QStringList({QStringLiteral("-"), QStringLiteral("The picture is not a file."),
                            QStringLiteral("-")}));
     EXPECT_EQ(desktop.desktopImageUrl({}), fileUrl(two));
-    EXPECT_EQ(calls(), "zoom\nzoom\n");
+    EXPECT_EQ(calls(), "stretch\nstretch\n");
     m_home.write(QStringLiteral("two.png"), "rewritten");
     EXPECT_EQ(set(desktop, {two}), QStringList(QStringLiteral("-")));
     EXPECT_TRUE(TempHome::read(m_home.path(QStringLiteral("pcmanfm-qt/lxqt/settings.conf")))
@@ -132,10 +132,10 @@ TEST_F(FileManager, isAskedOnceForEachPictureInTurn)
 TEST_F(FileManager, isAskedAgainWhenItDoesNotListen)
 {
     install("[ $n -ge 2 ]");
-    FileManagerPictures desktop(lxqt(), m_home.path());
+    FileManagerPictures desktop(lxqt(), m_home.path(), m_home.path());
     EXPECT_EQ(set(desktop, {m_home.write(QStringLiteral("a.png"), "1")}),
               QStringList(QStringLiteral("-")));
-    EXPECT_EQ(calls(), "zoom\nzoom\n");
+    EXPECT_EQ(calls(), "stretch\nstretch\n");
 }
 
 TEST_F(FileManager, failuresAreTold)
@@ -143,14 +143,14 @@ TEST_F(FileManager, failuresAreTold)
     install("false");
     const QString path = m_home.write(QStringLiteral("a.png"), "1");
     {
-        FileManagerPictures desktop(lxqt(), m_home.path());
+        FileManagerPictures desktop(lxqt(), m_home.path(), m_home.path());
         EXPECT_EQ(set(desktop, {path}),
                   QStringList(QStringLiteral("The desktop did not take the picture.")));
-        EXPECT_EQ(calls(), "zoom\nzoom\nzoom\n");
+        EXPECT_EQ(calls(), "stretch\nstretch\nstretch\n");
     }
     FileManagerDesktop missing = lxqt();
     missing.program = "moravel-no-such-program";
-    FileManagerPictures desktop(missing, m_home.path());
+    FileManagerPictures desktop(missing, m_home.path(), m_home.path());
     EXPECT_EQ(set(desktop, {path, path}),
               QStringList({QStringLiteral("The desktop's file manager cannot be started."),
                            QStringLiteral("The desktop's file manager cannot be started.")}));

@@ -128,7 +128,9 @@ QString makeScaled(const CopyOrder &order, const std::atomic<bool> &stop)
     if (qint64(stored.width()) * stored.height() > MostPixels)
         return {};
     const bool turned = reader.transformation() & QImageIOHandler::TransformationRotate90;
-    const auto plan = planCopy(turned ? stored.transposed() : stored, order.screens, order.scaling);
+    const QSize upright = turned ? stored.transposed() : stored;
+    const auto plan = order.cuts ? planCut(upright, order.screens.value(0))
+                                 : planCopy(upright, order.screens, order.scaling);
     if (!plan || stop)
         return {};
     const QDir folder(order.folder);

@@ -20,6 +20,7 @@ struct CopyOrder
     QString folder; ///< Made when it is missing.
     int version = 0; ///< Another one gives another name.
     bool link = false; ///< Where no copy is worth it, a symbolic link takes its place.
+    bool cuts = false; ///< A copy in the shape of the first screen, see planCut().
 };
 
 /// Makes the copy unless it is there, and returns its file name in the folder. The name changes with

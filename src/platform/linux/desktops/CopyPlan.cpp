@@ -50,4 +50,16 @@ std::optional<CopyPlan> planCopy(QSize picture, const QList<QSize> &screens, Des
     return plan;
 }
 
+std::optional<CopyPlan> planCut(QSize picture, QSize screen)
+{
+    if (picture.isEmpty() || screen.isEmpty())
+        return std::nullopt;
+    const QSize whole = picture.scaled(screen, Qt::KeepAspectRatioByExpanding);
+    if (whole == screen)
+        return std::nullopt;
+    QRect cut({}, screen);
+    cut.moveCenter(QRect({}, whole).center());
+    return CopyPlan{whole, cut};
+}
+
 } // namespace moravel

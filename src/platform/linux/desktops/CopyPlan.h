@@ -24,4 +24,8 @@ struct CopyPlan
 std::optional<CopyPlan> planCopy(QSize picture, const QList<QSize> &screens,
                                  DesktopScaling scaling);
 
+/// Tells how to cut a picture so that it fills @p screen when it is stretched over it. None when it has
+/// that shape already.
+std::optional<CopyPlan> planCut(QSize picture, QSize screen);
+
 } // namespace moravel

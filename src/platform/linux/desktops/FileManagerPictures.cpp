@@ -20,14 +20,25 @@ constexpr size_t MostJobs = 64;
 } // namespace
 
 FileManagerPictures::FileManagerPictures(const FileManagerDesktop &desktop,
-                                         const QString &configFolder)
+                                         const QString &configFolder, const QString &copyFolder)
     : m_desktop(desktop)
     , m_screens([this] {
         if (onScreensChanged)
             onScreensChanged();
     })
     , m_settings(settingsPath(desktop, configFolder), [this] { refresh(); })
+    , m_copies(desktop.fill ? nullptr : std::make_unique<ScaledCopies>(copyFolder, CopyKind::Cut))
 {
+    // Started again, it lays the picture out as its settings say, where its command leaves no trace.
+    if (m_desktop.service) {
+        m_service.setConnection(QDBusConnection::sessionBus());
+        m_service.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
+        m_service.addWatchedService(QLatin1String(m_desktop.service));
+        connect(&m_service, &QDBusServiceWatcher::serviceRegistered, this, [this] {
+            if (onScreensChanged)
+                onScreensChanged();
+        });
+    }
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardOutputFile(QProcess::nullDevice());
     m_process.setStandardErrorFile(QProcess::nullDevice());
@@ -97,8 +108,20 @@ void FileManagerPictures::startNext()
     Job &job = m_jobs.front();
     if (job.path.isEmpty())
         return finish(job.refusal);
-    const QByteArray stamp = fileStamp(job.path);
-    job.path = spelling(job.path);
+    if (!m_copies || job.scaling != DesktopScaling::Fill)
+        return hand(job.path);
+    QList<QSize> main;
+    for (const DesktopScreen &screen : screens()) {
+        if (screen.isMain)
+            main.append(screen.pixels);
+    }
+    m_copies->prepare(job.path, main, job.scaling, [this](const QString &file) { hand(file); });
+}
+
+void FileManagerPictures::hand(const QString &file)
+{
+    const QByteArray stamp = fileStamp(file);
+    m_jobs.front().path = spelling(file);
     m_stamp = stamp;
     startCommand();
 }
@@ -148,8 +171,10 @@ void FileManagerPictures::finish(QString failure)
 void FileManagerPictures::refresh()
 {
     m_reading = readSettings(m_desktop, m_settings.path());
-    m_url = fileUrl(m_reading.slideshowFolder.isEmpty() ? QDir::cleanPath(m_reading.image)
-                                                        : m_reading.slideshowFolder);
+    const QString image = QDir::cleanPath(m_reading.image);
+    m_url = fileUrl(!m_reading.slideshowFolder.isEmpty() ? m_reading.slideshowFolder
+                        : m_copies                       ? m_copies->original(image)
+                                                         : image);
 }
 
 /// The path, spelled otherwise than before when the file is another one than it was: the desktop does

@@ -4,8 +4,11 @@
 #include "platform/DesktopPictures.h"
 #include "platform/linux/desktops/FileFollower.h"
 #include "platform/linux/desktops/FileManagers.h"
+#include "platform/linux/desktops/ScaledCopies.h"
 #include "platform/linux/desktops/Screens.h"
 
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QObject>
 #include <QProcess>
 #include <QTimer>
@@ -21,7 +24,9 @@ class FileManagerPictures : public QObject, public DesktopPictures
     Q_OBJECT
 
 public:
-    FileManagerPictures(const FileManagerDesktop &desktop, const QString &configFolder);
+    /// @param copyFolder where cut copies of pictures are kept, for the desktops that need them.
+    FileManagerPictures(const FileManagerDesktop &desktop, const QString &configFolder,
+                        const QString &copyFolder);
     ~FileManagerPictures() override;
 
     QString name() const override { return QString::fromLatin1(m_desktop.name); }
@@ -46,6 +51,7 @@ private:
 
     void add(Job job);
     void startNext();
+    void hand(const QString &file);
     void startCommand();
     void onEnded();
     void check();
@@ -56,6 +62,8 @@ private:
     const FileManagerDesktop &m_desktop;
     Screens m_screens;
     FileFollower m_settings;
+    QDBusServiceWatcher m_service;
+    std::unique_ptr<ScaledCopies> m_copies; ///< Null where the desktop fills screens by itself.
     FileManagerReading m_reading;
     QString m_url;
     QByteArray m_stamp; ///< The file that was last set, as it was then.

@@ -14,9 +14,11 @@ namespace {
 constexpr qint64 LargestSettings = 1024 * 1024;
 
 constexpr FileManagerDesktop Rows[] = {
-    {"LXQt", "lxqt", "pcmanfm-qt", "center", "fit", "zoom", "lxqt", "settings.conf", false, false},
-    {"LXDE", "lxde", "pcmanfm", "center", "fit", "crop", "LXDE", "desktop-items-0.conf", true,
-     true},
+    // Its help knows "zoom", its command does not.
+    {"LXQt", "lxqt", "pcmanfm-qt", "center", "fit", nullptr, "lxqt", "settings.conf", false, false,
+     "org.pcmanfm.PCManFM"},
+    {"LXDE", "lxde", "pcmanfm", "center", "fit", "crop", "LXDE", "desktop-items-0.conf", true, true,
+     nullptr},
 };
 
 QString keyFileText(GKeyFile *file, const char *key)
@@ -71,7 +73,8 @@ QStringList setArguments(const FileManagerDesktop &desktop, const QString &path,
 {
     const char *mode = scaling == DesktopScaling::Centred ? desktop.centred
         : scaling == DesktopScaling::Fit                  ? desktop.fit
-                                                          : desktop.fill;
+        : desktop.fill                                    ? desktop.fill
+                                                          : "stretch";
     return {QStringLiteral("--set-wallpaper"), path, QStringLiteral("--wallpaper-mode"),
             QLatin1String(mode)};
 }

@@ -16,11 +16,12 @@ struct FileManagerDesktop
     const char *program; ///< Also the name of its settings folder.
     const char *centred; ///< Its words for the ways to lay a picture onto a screen.
     const char *fit;
-    const char *fill;
+    const char *fill; ///< Null when it can only stretch: it gets a copy in the screen's shape.
     const char *profile; ///< Of the settings.
     const char *settings; ///< File name of the settings.
     bool isKeyFile; ///< GLib's form of settings rather than Qt's.
     bool repaints; ///< Takes the same path again.
+    const char *service; ///< Its name on the session bus; null when it has none.
 };
 
 /// Finds the row of a desktop by its word in XDG_CURRENT_DESKTOP, any case; null when there is none.

@@ -33,9 +33,9 @@ GSettingsPictures::GSettingsPictures(const GSettingsDesktop &desktop, const QStr
     , m_keys(QString::fromLatin1(desktop.schema))
     , m_interface(QStringLiteral("org.gnome.desktop.interface"))
     , m_slideshow(QString::fromLatin1(desktop.slideshowSchema))
-    , m_copies(desktop.keepsPictures
-                   ? std::make_unique<ScaledCopies>(copyFolder, desktop.plainNamesOnly)
-                   : nullptr)
+    , m_copies(desktop.keepsPictures ? std::make_unique<ScaledCopies>(
+                   copyFolder, desktop.plainNamesOnly ? CopyKind::PlainNames : CopyKind::Scaled)
+                                     : nullptr)
     , m_screens([this] { onScreens(); })
 {
     m_keys.onChanged = m_interface.onChanged = m_slideshow.onChanged = [this] { refresh(); };

@@ -82,6 +82,8 @@ void PlasmaPictures::setDesktopImageUrl(const QString &url, const QString &scree
         return refuse("The picture is not a file.");
     if (!corner)
         return refuse("The screen is not connected.");
+    if (m_shown.value(screen).path.endsWith(u'/'))
+        qCInfo(desktopsLog, "Plasma changed the picture by itself; it no longer does");
     const QByteArray stamp = fileStamp(path);
     const QString image = spelling(path, screen);
     m_stamps.insert(screen, stamp);

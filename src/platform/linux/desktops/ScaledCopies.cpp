@@ -42,8 +42,8 @@ QList<QSize> toScreens(const QJsonArray &array)
 
 } // namespace
 
-ScaledCopies::ScaledCopies(const QString &folder, bool plainNames)
-    : m_folder(QDir::cleanPath(folder)), m_plainNames(plainNames)
+ScaledCopies::ScaledCopies(const QString &folder, CopyKind kind)
+    : m_folder(QDir::cleanPath(folder)), m_kind(kind)
 {
     m_pool.setMaxThreadCount(1);
     load();
@@ -65,7 +65,8 @@ void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                           scaling,
                           m_folder,
                           versionFor(picture),
-                          m_plainNames && picture.contains(special)};
+                          m_kind == CopyKind::PlainNames && picture.contains(special),
+                          m_kind == CopyKind::Cut};
     m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {

@@ -12,6 +12,13 @@
 
 namespace moravel {
 
+/// What a desktop needs copies for.
+enum class CopyKind {
+    Scaled, ///< It keeps decoded pictures: smaller ones.
+    PlainNames, ///< The same, and a path with a %, # or ? gets at least a link with a plain name.
+    Cut, ///< It fills a screen only by stretching: copies in the shape of the first screen.
+};
+
 /// Screen-sized stand-ins for large pictures, for desktops that keep every picture they were given in
 /// memory. Lives in a folder of its own, which holds the last two copies and a list that tells whose
 /// copies they are; nothing else in the folder is touched. Main thread only; decoding and writing
@@ -19,9 +26,8 @@ namespace moravel {
 class ScaledCopies
 {
 public:
-    /// @p folder is made when the first copy is. With @p plainNames a picture whose path has a %, # or ?
-    /// gets at least a link with a plain name.
-    explicit ScaledCopies(const QString &folder, bool plainNames = false);
+    /// @p folder is made when the first copy is.
+    explicit ScaledCopies(const QString &folder, CopyKind kind = CopyKind::Scaled);
     ~ScaledCopies();
 
     /// Finds the file to hand to the desktop for @p picture (a plain path): a copy, made if it is
@@ -56,7 +62,7 @@ private:
     void removeOthers() const;
 
     QString m_folder;
-    bool m_plainNames;
+    CopyKind m_kind;
     QList<Entry> m_entries; ///< The last one first; two at most.
     QObject m_mainThread; ///< Receives the results; those still posted go with it.
     std::atomic<bool> m_stop = false;

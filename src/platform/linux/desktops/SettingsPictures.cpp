@@ -24,7 +24,8 @@ std::unique_ptr<DesktopPictures> makeSettingsPictures(const QString &currentDesk
         }
         if (const auto *desktop = fileManagerDesktop(name)) {
             return std::make_unique<FileManagerPictures>(
-                *desktop, QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+                *desktop, QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation),
+                supportFolder + QLatin1String("/desktop"));
         }
     }
     return nullptr;

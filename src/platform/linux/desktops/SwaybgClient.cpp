@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/desktops/SwaybgClient.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 
 #include <csignal>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 namespace moravel::swaybg {
 
@@ -36,6 +39,36 @@ qint64 startOf(qint64 id)
     return afterName > 0 && fields.size() > 19 && fields[0] != "Z" ? fields[19].toLongLong() : 0;
 }
 
+QByteArray processFile(const QString &id, const char *name)
+{
+    QFile file(QStringLiteral("/proc/%1/%2").arg(id, QLatin1String(name)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Without "-o" a client draws on all outputs, and so it does with "*".
+bool drawsOn(const QByteArray &output, const QByteArrayList &arguments)
+{
+    bool named = false;
+    for (qsizetype i = 0; i + 1 < arguments.size(); ++i) {
+        if (arguments[i] != "-o" && arguments[i] != "--output")
+            continue;
+        named = true;
+        if (arguments[i + 1] == output || arguments[i + 1] == "*")
+            return true;
+    }
+    return !named;
+}
+
+bool isOfThisSession(const QString &id)
+{
+    const QByteArrayList theirs = processFile(id, "environ").split('\0');
+    for (const char *name : {"XDG_RUNTIME_DIR", "WAYLAND_DISPLAY"}) {
+        if (!theirs.contains(QByteArray(name) + '=' + qgetenv(name)))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 std::optional<Process> launch(const QString &output, const QString &path, DesktopScaling scaling)
@@ -63,6 +96,40 @@ void end(const Process &process)
 {
     if (isAlive(process))
         ::kill(static_cast<pid_t>(process.id), SIGTERM);
+}
+
+QList<Process> rivals(const QString &output, const QList<Process> &ours)
+{
+    QList<Process> found;
+    for (const QString &id : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+        if (!id[0].isDigit() || processFile(id, "comm") != "swaybg\n")
+            continue;
+        const Process process{id.toLongLong(), startOf(id.toLongLong())};
+        if (!ours.contains(process) && isAlive(process) && isOfThisSession(id)
+            && drawsOn(output.toUtf8(), processFile(id, "cmdline").split('\0')))
+            found.append(process);
+    }
+    return found;
+}
+
+EndWatch::EndWatch(const Process &process, std::function<void()> ended)
+    : m_process(process), m_handle(int(::syscall(SYS_pidfd_open, process.id, 0)))
+{
+    if (m_handle < 0)
+        return;
+    m_notifier = std::make_unique<QSocketNotifier>(m_handle, QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(),
+                     [this, ended = std::move(ended)] {
+                         m_notifier->setEnabled(false);
+                         ended();
+                     });
+}
+
+EndWatch::~EndWatch()
+{
+    m_notifier.reset();
+    if (m_handle >= 0)
+        ::close(m_handle);
 }
 
 } // namespace moravel::swaybg

@@ -4,6 +4,11 @@
 
 #include "platform/DesktopPictures.h"
 
+#include <QList>
+#include <QSocketNotifier>
+
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace moravel::swaybg {
@@ -24,5 +29,25 @@ bool isAlive(const Process &process);
 
 /// Asks the process to end, if it is still that one.
 void end(const Process &process);
+
+/// Running clients of this session that draw on @p output and are none of @p ours. The compositor starts
+/// one where its own configuration names a background.
+QList<Process> rivals(const QString &output, const QList<Process> &ours);
+
+/// Tells of the end of a process, without asking for it.
+class EndWatch
+{
+public:
+    /// @param ended called once, later; must not delete the watch.
+    EndWatch(const Process &process, std::function<void()> ended);
+    ~EndWatch();
+
+    const Process &process() const { return m_process; }
+
+private:
+    Process m_process;
+    int m_handle;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
 
 } // namespace moravel::swaybg

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace moravel {
 
 namespace {
@@ -14,6 +16,14 @@ namespace {
 constexpr int SettledMs =
     300; ///< A client that cannot read its picture or output has ended by then.
 constexpr int CoveredMs = 1000; ///< Its successor has painted by then; ending it shows no gap.
+constexpr int AgainMs = 500; ///< Before a client that ended is started again; doubled each time,
+constexpr int LongestAgainMs = 60'000; ///< up to this. One that ran for so long starts afresh.
+
+void logFailure(const tl::expected<void, DesktopError> &result)
+{
+    if (!result)
+        qCInfo(desktopsLog) << result.error().screen << result.error().description;
+}
 
 } // namespace
 
@@ -41,17 +51,94 @@ QString WlrootsDesktop::desktopImageUrl(const QString &screen) const
 void WlrootsDesktop::setDesktopImageUrl(const QString &url, const QString &screen,
                                         DesktopScaling scaling, Done done)
 {
+    if (const auto client = m_clients.value(screen))
+        client->ends = 0;
     launch(screen, {pathOfUrl(url), scaling}, std::move(done));
 }
 
 void WlrootsDesktop::restore()
 {
     for (auto it = m_record.screens.begin(); it != m_record.screens.end(); ++it) {
-        if (m_screens.has(it.key()) && !swaybg::isAlive({it->owner, it->ownerStart}))
-            launch(it.key(), *it, [](const tl::expected<void, DesktopError> &result) {
-                if (!result)
-                    qCInfo(desktopsLog) << result.error().screen << result.error().description;
-            });
+        if (!m_screens.has(it.key()))
+            continue;
+        if (swaybg::isAlive(clientOf(it.key())))
+            follow(it.key());
+        else
+            launch(it.key(), *it, logFailure);
+    }
+}
+
+swaybg::Process WlrootsDesktop::clientOf(const QString &screen) const
+{
+    const DesktopRecordEntry entry = m_record.screens.value(screen);
+    return {entry.owner, entry.ownerStart};
+}
+
+QList<swaybg::Process> WlrootsDesktop::ours() const
+{
+    QList<swaybg::Process> all = m_starting + m_ending;
+    for (const QString &screen : m_record.screens.keys())
+        all.append(clientOf(screen));
+    return all;
+}
+
+void WlrootsDesktop::follow(const QString &screen)
+{
+    auto &client = m_clients[screen];
+    if (!client)
+        client = std::make_shared<Client>();
+    const swaybg::Process process = clientOf(screen);
+    if (client->watch && client->watch->process() == process)
+        return;
+    client->running.start();
+    client->watch =
+        std::make_unique<swaybg::EndWatch>(process, [this, screen] { onEnded(screen); });
+    uncover(screen);
+}
+
+void WlrootsDesktop::onEnded(const QString &screen)
+{
+    Client &client = *m_clients[screen];
+    if (client.running.hasExpired(LongestAgainMs))
+        client.ends = 0;
+    const int wait = std::min(AgainMs << std::min(client.ends++, 10), LongestAgainMs);
+    QTimer::singleShot(wait, &m_timers, [this, screen, ended = client.watch->process()] {
+        startAgain(screen, ended);
+    });
+}
+
+void WlrootsDesktop::startAgain(const QString &screen, const swaybg::Process &ended)
+{
+    if (clientOf(screen) != ended || !m_screens.has(screen))
+        return; // replaced meanwhile, or to be restored with its screen
+    const QList<swaybg::Process> rivals = swaybg::rivals(screen, ours());
+    const auto isNewer = [&](const swaybg::Process &other) { return other.start > ended.start; };
+    if (std::any_of(rivals.begin(), rivals.end(), isNewer)) {
+        qCInfo(desktopsLog) << "another background has taken our place on" << screen;
+        m_record.screens.remove(screen);
+        m_file.write(m_record);
+        return;
+    }
+    qCInfo(desktopsLog) << "swaybg has ended; starting it again on" << screen;
+    launch(screen, m_record.screens.value(screen), logFailure);
+}
+
+void WlrootsDesktop::uncover(const QString &screen)
+{
+    const QList<swaybg::Process> rivals = swaybg::rivals(screen, ours());
+    const QList<DesktopScreen> all = screens();
+    for (const swaybg::Process &rival : rivals) {
+        const bool spare = std::all_of(all.begin(), all.end(), [&](const DesktopScreen &one) {
+            return swaybg::isAlive(clientOf(one.id))
+                || !swaybg::rivals(one.id, ours()).contains(rival);
+        });
+        if (!std::exchange(m_toldOfRival, true))
+            qCInfo(desktopsLog).nospace()
+                << "another swaybg, process " << rival.id << ", can cover the picture of " << screen
+                << ": the compositor's configuration may name a background (bg)"
+                << (spare ? "; it is ended" : "");
+        if (spare)
+            endLater(rival);
     }
 }
 
@@ -93,6 +180,7 @@ void WlrootsDesktop::adopt(const QString &screen, const DesktopRecordEntry &entr
     m_record.screens[screen] = entry;
     m_file.write(m_record);
     endLater({old.owner, old.ownerStart});
+    follow(screen);
     done({});
 }
 

@@ -8,6 +8,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusReply>
+#include <QTimer>
 
 #include <limits>
 
@@ -16,6 +17,10 @@ namespace moravel {
 namespace {
 
 constexpr int FirstReadMs = 500; ///< How long the start may wait for the service.
+
+// A change that reaches the desktop while it opens the file of the change before ends it, or makes it
+// go on with the wrong file (xfdesktop 4.18). It has long opened it by then.
+constexpr int PauseMs = 250;
 
 QString service()
 {
@@ -157,6 +162,17 @@ void XfceDesktop::setDesktopImageUrl(const QString &url, const QString &screen,
         {rootNumber("_NET_NUMBER_OF_DESKTOPS", 1), rootNumber("_NET_CURRENT_DESKTOP", 0)},
         setting->path, scaling);
     setting->unanswered = changes.size();
+    if (changes.isEmpty())
+        return verify(setting);
+    const bool hasStyle = changes[0].property.endsWith(QLatin1String("/image-style"));
+    send(setting, changes.mid(0, hasStyle ? 1 : -1));
+    if (hasStyle && changes.size() > 1)
+        QTimer::singleShot(PauseMs, this,
+                           [this, setting, rest = changes.mid(1)] { send(setting, rest); });
+}
+
+void XfceDesktop::send(const std::shared_ptr<Setting> &setting, const QList<xfce::Change> &changes)
+{
     for (const xfce::Change &change : changes) {
         const QDBusMessage message =
             call("SetProperty",
@@ -170,11 +186,9 @@ void XfceDesktop::setDesktopImageUrl(const QString &url, const QString &screen,
                     if (!watcher->isError())
                         m_properties[change.property] = change.value;
                     if (--setting->unanswered == 0)
-                        verify(setting);
+                        QTimer::singleShot(PauseMs, this, [this, setting] { verify(setting); });
                 });
     }
-    if (changes.isEmpty())
-        verify(setting);
 }
 
 void XfceDesktop::verify(const std::shared_ptr<Setting> &setting)

@@ -51,6 +51,7 @@ private:
     struct Setting;
 
     void load(QDBus::CallMode mode);
+    void send(const std::shared_ptr<Setting> &setting, const QList<xfce::Change> &changes);
     void verify(const std::shared_ptr<Setting> &setting);
     void tellOfCycling(const QString &screen);
     int rootNumber(const char *property, int otherwise) const;
