@@ -58,3 +58,21 @@ function(moravel_test folder)
   gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${folder}."
     DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
 endfunction()
+
+# moravel_lab_test(NAME SOURCES … LINKS … LABS "CASE: SCRIPT ARGUMENTS" …): an executable that runs as a
+# whole inside each of the labs of tests/labs. Labs measure what is seen within seconds, so each has the
+# machine for itself.
+function(moravel_lab_test name)
+  cmake_parse_arguments(arg "" "" "SOURCES;LINKS;LABS" ${ARGN})
+  set(target "test_lab_${name}")
+  add_executable(${target} ${arg_SOURCES})
+  target_include_directories(${target} PRIVATE "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/tests")
+  target_link_libraries(${target} PRIVATE moravel_options moravel_test_support ${arg_LINKS})
+  foreach(lab ${arg_LABS})
+    string(REGEX MATCH "^([^:]+): *(.*)$" _ "${lab}")
+    set(test "desktop.${name}.${CMAKE_MATCH_1}")
+    separate_arguments(command UNIX_COMMAND "${CMAKE_SOURCE_DIR}/tests/labs/${CMAKE_MATCH_2}")
+    add_test(NAME ${test} COMMAND ${command} $<TARGET_FILE:${target}>)
+    set_tests_properties(${test} PROPERTIES LABELS desktop TIMEOUT 240 RUN_SERIAL ON)
+  endforeach()
+endfunction()

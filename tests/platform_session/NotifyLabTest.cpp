@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+// Against a real notification service, named by LAB_DAEMON; what is shown is looked for on the screen.
+#include "support/Lab.h"
+
+#include "platform/linux/session/DBusNotifications.h"
+#include "platform/qt/QtImages.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+using namespace moravel;
+using namespace moravel::testing;
+
+namespace {
+
+const QString Service = QStringLiteral("org.freedesktop.Notifications");
+
+class NotifyLab : public ::testing::Test, public NotificationsDelegate
+{
+protected:
+    NotifyLab() { notifications.setGrowlDelegate(this); }
+
+    NotificationRegistration registrationDictionaryForGrowl() const override
+    {
+        const QStringList names{QStringLiteral("Moravel")};
+        return {.allNotifications = names, .defaultNotifications = names};
+    }
+
+    void growlNotificationWasClicked(const std::optional<QString> &context) override
+    {
+        clicks.append(context.value_or(QString()));
+    }
+
+    /// Posts a notification with a picture of one colour; returns how long that held the main loop, in ms.
+    qint64 post(const QColor &colour, const std::optional<QString> &context)
+    {
+        QImage image(600, 400, QImage::Format_RGB32);
+        image.fill(colour);
+        const QString path = folder.filePath(colour.name().mid(1) + QStringLiteral(".png"));
+        EXPECT_TRUE(image.save(path));
+        QElapsedTimer timer;
+        timer.start();
+        notifications.notify({.title = QStringLiteral("New picture of the day"),
+                              .description = QStringLiteral("Sky & Stars\nJuly 4\n<b>Moon</b>"),
+                              .name = QStringLiteral("Moravel"),
+                              .picture = path,
+                              .sticky = true,
+                              .clickContext = context,
+                              .clickLabel = QStringLiteral("Set as desktop")});
+        return timer.elapsed();
+    }
+
+    /// Where its button is: at the lower right corner of what is not background.
+    static QPoint button()
+    {
+        const QImage shot = screenshot();
+        QPoint corner;
+        for (int y = 0; y < shot.height(); ++y)
+            for (int x = 0; x < shot.width(); ++x)
+                if (shot.pixelColor(x, y) != Qt::black)
+                    corner = {std::max(corner.x(), x), y};
+        return corner - QPoint(40, 30);
+    }
+
+    /// Does what a user does to take the notification, whose picture is at @p place.
+    void click(QPoint place, bool hasAction) const
+    {
+        if (daemon == "dunst")
+            dunst("action 0");
+        else
+            clickAt(hasAction ? button() : place);
+    }
+
+    static QByteArray dunst(const char *arguments)
+    {
+        const QString line = QStringLiteral("dunstctl ") + QLatin1String(arguments);
+        const Ended ended = runProgram(line.split(u' '));
+        EXPECT_EQ(ended.code, 0);
+        return ended.output;
+    }
+
+    static pid_t daemonId()
+    {
+        const auto *bus = QDBusConnection::sessionBus().interface();
+        return static_cast<pid_t>(bus->servicePid(Service).value());
+    }
+
+    const QByteArray daemon = qgetenv("LAB_DAEMON");
+    QTemporaryDir folder;
+    QtImages images;
+    DBusNotifications notifications{QDBusConnection::sessionBus(), images};
+    QStringList clicks;
+};
+
+TEST_F(NotifyLab, showsThePictureAndTakesAClickOnlyWithAContext)
+{
+    const struct
+    {
+        QColor colour;
+        std::optional<QString> context;
+        QStringList clicks;
+    } table[] = {
+        {QColor(200, 0, 100), {}, {}},
+        {QColor(0, 150, 200),
+         QStringLiteral("growlClickContext"),
+         {QStringLiteral("growlClickContext")}},
+    };
+
+    for (const auto &row : table) {
+        clicks.clear();
+        EXPECT_LT(post(row.colour, row.context), 50);
+        std::optional<QPoint> place;
+        MORAVEL_WAIT((place = findColour(row.colour)).has_value());
+        keepShot();
+        click(*place, row.context.has_value());
+        MORAVEL_WAIT(clicks.size() >= row.clicks.size());
+        if (daemon == "dunst")
+            dunst("close-all");
+        MORAVEL_WAIT(!findColour(row.colour)); // taken, it goes
+        EXPECT_EQ(clicks, row.clicks);
+    }
+    if (daemon != "dunst")
+        return;
+    const QByteArray history = dunst("history");
+    for (const char *part : {"\"Moravel\"", "New picture of the day",
+                             "Sky &amp; Stars\\nJuly 4\\n&lt;b&gt;Moon&lt;/b&gt;", "\"default\""})
+        EXPECT_TRUE(history.contains(part)) << part << " is not in " << history.constData();
+}
+
+TEST_F(NotifyLab, waitsForNoService)
+{
+    const pid_t id = daemonId();
+    ASSERT_GT(id, 1);
+    ::kill(id, SIGSTOP);
+    EXPECT_LT(post(QColor(120, 120, 0), {}), 50);
+    QElapsedTimer timer;
+    timer.start();
+    qint64 longest = 0;
+    for (qint64 last = 0; timer.elapsed() < 500; last = timer.elapsed()) {
+        QCoreApplication::processEvents();
+        longest = std::max(longest, timer.elapsed() - last);
+    }
+    EXPECT_LT(longest, 100);
+    ::kill(id, SIGCONT);
+    MORAVEL_WAIT(findColour(QColor(120, 120, 0)).has_value());
+    // It goes for good, and the program goes on; nothing warns.
+    ::kill(id, SIGKILL);
+    MORAVEL_WAIT(!daemonId());
+    for (int i = 0; i < 20; ++i)
+        EXPECT_LT(post(QColor(0, 120, 120), QStringLiteral("x")), 50);
+    EXPECT_TRUE(waitFor([&] { return timer.elapsed() > 1'500; }));
+    EXPECT_FALSE(findColour(QColor(0, 120, 120)));
+    if (daemon != "dunst")
+        return;
+    QProcess again;
+    again.start(QStringLiteral("dunst"), {});
+    MORAVEL_WAIT(daemonId());
+    post(QColor(60, 0, 180), {});
+    MORAVEL_WAIT(findColour(QColor(60, 0, 180)).has_value());
+    again.terminate();
+    again.waitForFinished();
+}
+
+} // namespace
