@@ -139,7 +139,8 @@ void QtImages::check(const QString &path, std::function<void(QSize)> done)
 
 void QtImages::size(const QString &path, std::function<void(QSize)> done)
 {
-    run<QSize>([this, path] { return announcedPictureSize(path, m_stop); }, std::move(done));
+    run<QSize>(
+        m_pool, [this, path] { return announcedPictureSize(path, m_stop); }, std::move(done));
 }
 
 bool QtImages::isImageExtension(const QString &extension) const
