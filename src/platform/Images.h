@@ -23,7 +23,8 @@ public:
     /// Tells whether the file is a complete, decodable picture, and its pixel size (empty if not).
     virtual void check(const QString &path, std::function<void(QSize)> done) = 0;
 
-    /// Tells whether files with this extension (no dot, any case) are pictures that can be read.
+    /// Tells whether files with this extension (no dot, any case) are pictures that can be read. May be
+    /// called on any thread.
     virtual bool isImageExtension(const QString &extension) const = 0;
 
     /// Returns the application's own picture of that name ("blank", "Trashcan", "Prefs").
