@@ -32,9 +32,10 @@ Table allowed()
         {QStringLiteral("service"), set("platform base text store thumb")},
         {QStringLiteral("desktop"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
+        {QStringLiteral("browser"), set("platform base text store thumb")},
         {QStringLiteral("app"),
          set("platform platform/qt platform/linux base text store thumb notify service desktop "
-             "mainwindow")},
+             "mainwindow browser")},
         {QStringLiteral("server"), set("text server")},
     };
 }
