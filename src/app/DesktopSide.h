@@ -41,6 +41,8 @@ public:
 
     GrowlAlert &growl() { return m_growl; }
 
+    Workspace &workspace() { return m_platform.workspace; }
+
 private:
     void fillServicePorts(PictureService &service);
     void fillPlatformPorts();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/BrowserSide.h"
 #include "app/DesktopSide.h"
 #include "app/Options.h"
 #include "base/DatePicker.h"
@@ -26,9 +27,9 @@ class MoravelAppDelegate : public QObject
 
 public:
     /// @p baseUrl is the service's address. What the platforms name must outlive this object. Without a
-    /// @p desktop no command concerning the desktop picture is offered.
+    /// @p desktop no command concerning the desktop picture is offered, without @p thumbnails no browser.
     MoravelAppDelegate(const Platform &platform, const std::optional<DesktopPlatform> &desktop,
-                       const QString &baseUrl, Options options);
+                       const QString &baseUrl, Options options, Thumbnails *thumbnails = nullptr);
     ~MoravelAppDelegate() override;
 
     /// Prepares the window; it can be shown then.
@@ -44,6 +45,9 @@ public:
 
     const ThumbCells &cells() const { return m_cells; }
 
+    /// Null where no thumbnails were lent.
+    BrowserSide *browser() const { return m_browser.get(); }
+
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
@@ -55,6 +59,7 @@ private:
 
     Platform m_platform;
     Options m_options;
+    Thumbnails *m_thumbnails;
     Dates m_dates;
     Preferences m_preferences;
     DatePicker m_datePicker;
@@ -72,6 +77,7 @@ private:
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<BrowserSide> m_browser;
     std::unique_ptr<SourceGrid> m_grid;
     DelayedCallHandle m_askAgain;
 };

@@ -13,6 +13,7 @@
 #include "platform/qt/QtImages.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtRandom.h"
+#include "platform/qt/QtThumbnails.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -92,9 +93,11 @@ int runApplication(QApplication &app, const Options &options)
     QtAlerts alerts;
     QtImages images;
     QtRandom random;
+    QtThumbnails thumbnails;
     LinuxDesktop desktop(loop, files, images);
     MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                desktop.lend(), QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
+                                desktop.lend(), QStringLiteral(MORAVEL_SERVICE_BASE_URL), options,
+                                &thumbnails);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();

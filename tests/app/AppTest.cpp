@@ -4,8 +4,10 @@
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
 #include "support/FakePlatform.h"
+#include "support/FakeThumbnails.h"
 #include "support/HomeFiles.h"
 #include "support/TempHome.h"
+#include "support/Wait.h"
 
 #include "app/MoravelAppDelegate.h"
 #include "mainwindow/CaptionLabel.h"
@@ -13,6 +15,8 @@
 #include "platform/qt/QtDefaults.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QTest>
 #include <QUrlQuery>
@@ -31,7 +35,7 @@ public:
         : files(home)
         , defaults(home.path(QStringLiteral("prefs.ini")))
         , delegate({loop, http, defaults, files, alerts, images, random}, std::nullopt,
-                   QStringLiteral("http://service/potd"), std::move(options))
+                   QStringLiteral("http://service/potd"), std::move(options), &thumbnails)
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };
         delegate.applicationWillFinishLaunching();
@@ -73,6 +77,7 @@ public:
     FakeAlerts alerts;
     FakeImages images;
     FakeRandom random;
+    FakeThumbnails thumbnails;
     MoravelAppDelegate delegate;
 };
 
@@ -175,6 +180,22 @@ TEST_F(AppTest, leftOversGoAtTheStartAndHalfDownloadsAtTheEnd)
         folder.entryList({QStringLiteral(".*.part")}, QDir::Files | QDir::Hidden).isEmpty());
     app.delegate.applicationShouldTerminate();
     EXPECT_TRUE(folder.entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
+
+TEST_F(AppTest, theBrowserShowsWhatWasGathered)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    app.run(20);
+    app.delegate.window().findChild<QAction *>(QStringLiteral("picBrowser"))->trigger();
+    Browser &browser = app.delegate.browser()->browser();
+    EXPECT_EQ(browser.browserWindow().findChild<QComboBox *>()->count(), 3);
+    MORAVEL_WAIT(browser.images().rowCount() == 2);
+    browser.browserWindow().close();
+    EXPECT_TRUE(app.delegate.window().isVisible());
+    Q_EMIT app.delegate.window().windowDidExitFullScreen();
+    EXPECT_EQ(browser.images().rowCount(), 2);
 }
 
 TEST(Options, commandLine)
