@@ -25,9 +25,11 @@ ThumbImages thumbImages(const Images &images)
 
 MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
                                        const std::optional<DesktopPlatform> &desktop,
-                                       const ShareSetup &share, Options options)
+                                       const ShareSetup &share, Options options,
+                                       Thumbnails *thumbnails)
     : m_platform(platform)
     , m_options(std::move(options))
+    , m_thumbnails(thumbnails)
     , m_preferences(m_platform.defaults)
     , m_cells(thumbImages(m_platform.images), commands(desktop.has_value()))
     , m_folders(m_platform.files, m_platform.alerts)
@@ -123,6 +125,14 @@ void MoravelAppDelegate::buildWindow()
             m_service.thumbPass().restart(seconds);
     };
     ports.retry = [this] { askForSourcesAgain(); };
+    if (m_thumbnails) {
+        m_browser = std::make_unique<BrowserSide>(m_context, m_legacy, m_preferences, *m_thumbnails,
+                                                  m_desktop.get());
+        m_browser->attachWindow(*m_window);
+        ports.addSourcePopupItem = [this](const QString &longName) {
+            m_browser->browser().addSourcePopupItem(longName);
+        };
+    }
     if (m_desktop) {
         m_desktop->attachWindow(*m_window);
         ports.rotateDesktop = [this](double seconds) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/BrowserSide.h"
 #include "app/DesktopSide.h"
 #include "app/LargePicSide.h"
 #include "app/Options.h"
@@ -29,9 +30,10 @@ class MoravelAppDelegate : public QObject
 
 public:
     /// The home address of @p share is the service's. What the platforms name must outlive this object.
-    /// Without a @p desktop no command concerning the desktop picture is offered.
+    /// Without a @p desktop no command concerning the desktop picture is offered, without @p thumbnails no
+    /// browser.
     MoravelAppDelegate(const Platform &platform, const std::optional<DesktopPlatform> &desktop,
-                       const ShareSetup &share, Options options);
+                       const ShareSetup &share, Options options, Thumbnails *thumbnails = nullptr);
     ~MoravelAppDelegate() override;
 
     /// Prepares the window; it can be shown then.
@@ -52,6 +54,9 @@ public:
 
     LargePic &largePic() { return m_largePic->largePic(); }
 
+    /// Null where no thumbnails were lent.
+    BrowserSide *browser() const { return m_browser.get(); }
+
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
@@ -64,6 +69,7 @@ private:
 
     Platform m_platform;
     Options m_options;
+    Thumbnails *m_thumbnails;
     Dates m_dates;
     Preferences m_preferences;
     DatePicker m_datePicker;
@@ -82,6 +88,7 @@ private:
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;
+    std::unique_ptr<BrowserSide> m_browser;
     std::unique_ptr<SourceGrid> m_grid;
     std::unique_ptr<LargePicSide> m_largePic;
     DelayedCallHandle m_askAgain;

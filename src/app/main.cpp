@@ -18,6 +18,7 @@
 #include "platform/qt/QtImages.h"
 #include "platform/qt/QtMainLoop.h"
 #include "platform/qt/QtRandom.h"
+#include "platform/qt/QtThumbnails.h"
 #include "platform/qt/QtUrlOpener.h"
 
 #include <QApplication>
@@ -147,9 +148,10 @@ int runApplication(QApplication &app, const Options &options)
     QtRandom random;
     QtUrlOpener urls;
     QtClipboard clipboard;
+    QtThumbnails thumbnails;
     LinuxDesktop desktop(loop, files, images);
     MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                desktop.lend(), shareSetup(urls, clipboard), options);
+                                desktop.lend(), shareSetup(urls, clipboard), options, &thumbnails);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();

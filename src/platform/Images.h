@@ -49,7 +49,8 @@ public:
     /// of the file is not looked at.
     virtual void size(const QString &path, std::function<void(QSize)> done) = 0;
 
-    /// Tells whether files with this extension (no dot, any case) are pictures that can be read.
+    /// Tells whether files with this extension (no dot, any case) are pictures that can be read. May be
+    /// called on any thread.
     virtual bool isImageExtension(const QString &extension) const = 0;
 
     /// Returns the application's own picture of that name ("blank", "Trashcan", "Prefs").

@@ -47,10 +47,20 @@ QString removeDoubleDomain(const QString &link)
 QString fileNameOfLink(const QString &link)
 {
     const QString name = link.sliced(link.lastIndexOf(u'/') + 1);
-    const QByteArray bytes = name.toUtf8();
-    const bool usable = bytes.size() <= longestName && name.isValidUtf16() && isSafeName(name)
-        && isSafeName(QString::fromUtf8(QByteArray::fromPercentEncoding(bytes)));
+    if (name.size() > longestName || !name.isValidUtf16() || !isSafeName(name))
+        return {};
+    const bool plain = name.size() * 3 <= longestName && !name.contains(u'%'); // nearly all are
+    const QByteArray bytes = plain ? QByteArray() : name.toUtf8();
+    const bool usable = plain
+        || (bytes.size() <= longestName
+            && isSafeName(QString::fromUtf8(QByteArray::fromPercentEncoding(bytes))));
     return usable ? name : QString();
+}
+
+QString pictureFileName(const QString &link)
+{
+    const QString name = fileNameOfLink(link);
+    return name.isEmpty() || hasExtension(name) ? name : name + QLatin1String(".jpg");
 }
 
 PictureLinks::PictureLinks(Folders &folders, const Files &files)
@@ -59,13 +69,13 @@ PictureLinks::PictureLinks(Folders &folders, const Files &files)
 
 QString PictureLinks::picLinkToPath(const QString &link, bool isThumb, bool checkForFile) const
 {
-    const QString name = fileNameOfLink(link);
+    const QString name = pictureFileName(link);
     if (name.isEmpty())
         return {};
     const QString folder = isThumb ? m_folders.thumbsFolder() : m_folders.moravelFolder();
     if (folder.isEmpty())
         return {};
-    const QString path = folder + name + (hasExtension(name) ? QString() : QStringLiteral(".jpg"));
+    const QString path = folder + name;
     return !checkForFile || m_files.exists(path) ? path : QString();
 }
 

@@ -17,6 +17,10 @@ QString removeDoubleDomain(const QString &link);
 /// the name of one of the program's own files.
 QString fileNameOfLink(const QString &link);
 
+/// Returns the bare name of the file that keeps a link's picture: fileNameOfLink(), with ".jpg" added where
+/// it has no extension.
+QString pictureFileName(const QString &link);
+
 /// Finds the files of links on the disk.
 class PictureLinks
 {

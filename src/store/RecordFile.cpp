@@ -57,6 +57,8 @@ public:
 
     std::string_view bytes() const { return m_file ? m_file->bytes() : std::string_view(); }
 
+    std::unique_ptr<FileBytes> release() { return std::move(m_file); }
+
 private:
     std::unique_ptr<FileBytes> m_file;
 };
@@ -99,6 +101,11 @@ std::optional<QString> RecordFile::readTextData() const
 {
     const auto text = load(m_folders.moravelDataFile());
     return text ? std::optional(textOf(text->bytes())) : std::nullopt;
+}
+
+std::unique_ptr<FileBytes> RecordFile::openTextData() const
+{
+    return loadOrNothing().release();
 }
 
 bool RecordFile::writeTextData(const QString &text)

@@ -32,6 +32,10 @@ public:
     /// Returns the whole text; "" when there is no file, nothing when it cannot be read.
     std::optional<QString> readTextData() const;
 
+    /// Opens the whole text, UTF-8, for a reader who splits it himself, on any thread. Null when there is
+    /// none or it cannot be read.
+    std::unique_ptr<FileBytes> openTextData() const;
+
     /// Replaces the whole text. Returns false after an alert.
     bool writeTextData(const QString &text);
 

@@ -4,6 +4,7 @@
 #include "base/Dates.h"
 #include "store/LegacyCaptions.h"
 #include "store/Logging.h"
+#include "store/RecordBatch.h"
 #include "store/RecordField.h"
 #include "store/RecordFile.h"
 
@@ -70,6 +71,19 @@ void RecordUpdates::storeDeletionForSource(const QString &source, const QString 
 QString RecordUpdates::storeDeletionForFileNameAndReturnThumb(const QString &fileName)
 {
     return replaceField(m_records.storedDataForFile(fileName, false), ThumbField, deletedMark());
+}
+
+QStringList RecordUpdates::storeDeletionsForFileNamesAndReturnThumbs(const QStringList &fileNames)
+{
+    if (fileNames.size() == 1)
+        return {storeDeletionForFileNameAndReturnThumb(fileNames.first())};
+    RecordBatch batch(m_records.readTextData().value_or(QString()));
+    QStringList thumbs;
+    for (const QString &name : fileNames)
+        thumbs.append(batch.replaceField(name, ThumbField, deletedMark()));
+    if (batch.hasChanged())
+        m_records.writeTextData(batch.text());
+    return thumbs;
 }
 
 void RecordUpdates::storeThumbForSource(const QString &source, const QString &onShortDate,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 namespace moravel {
 
@@ -28,6 +28,9 @@ public:
 
     /// Marks a picture as deleted and returns the thumbnail link it had, or "".
     QString storeDeletionForFileNameAndReturnThumb(const QString &fileName);
+
+    /// Does so for many files, with one reading and one writing. Returns the links in the order of the names.
+    QStringList storeDeletionsForFileNamesAndReturnThumbs(const QStringList &fileNames);
 
     /// Gives a picture a thumbnail link, which ends its being deleted.
     void storeThumbForSource(const QString &source, const QString &onShortDate,

@@ -47,6 +47,10 @@ QString capitalised(const QString &text)
 
 bool isAllCapitals(const QString &text)
 {
+    for (const QChar c : text) { // spares nearly every caption the copy
+        if (c >= u'a' && c <= u'z')
+            return false;
+    }
     return text == text.toUpper();
 }
 

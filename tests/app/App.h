@@ -6,6 +6,7 @@
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
 #include "support/FakePlatform.h"
+#include "support/FakeThumbnails.h"
 #include "support/HomeFiles.h"
 #include "support/TempHome.h"
 
@@ -35,7 +36,7 @@ public:
                {QStringLiteral("fb"), QStringLiteral("tw"), QStringLiteral("http://service/potd")},
                QStringLiteral("help@makers"),
                QStringLiteral("1.2")},
-              std::move(options))
+              std::move(options), &thumbnails)
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };
         delegate.applicationWillFinishLaunching();
@@ -78,6 +79,7 @@ public:
     FakeAlerts alerts;
     FakeImages images;
     FakeRandom random;
+    FakeThumbnails thumbnails;
     FakeDesktopPictures pictures;
     FakeUrlOpener urls;
     FakeClipboard clipboard;

@@ -6,6 +6,8 @@
 #include "mainwindow/LargePicWindow.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
 #include <QDir>
 #include <QTest>
 
@@ -150,6 +152,22 @@ TEST_F(AppTest, largePictureFollowsItsDownloadAndHoldsTheSequenceForItsPage)
     app.run(1);
     EXPECT_FALSE(app.loop.isHeld());
     EXPECT_TRUE(part("parentButton")->isEnabled());
+}
+
+TEST_F(AppTest, theBrowserShowsWhatWasGathered)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    app.run(20);
+    app.delegate.window().findChild<QAction *>(QStringLiteral("picBrowser"))->trigger();
+    Browser &browser = app.delegate.browser()->browser();
+    EXPECT_EQ(browser.browserWindow().findChild<QComboBox *>()->count(), 3);
+    MORAVEL_WAIT(browser.images().rowCount() == 2);
+    browser.browserWindow().close();
+    EXPECT_TRUE(app.delegate.window().isVisible());
+    Q_EMIT app.delegate.window().windowDidExitFullScreen();
+    EXPECT_EQ(browser.images().rowCount(), 2);
 }
 
 TEST(Options, commandLine)

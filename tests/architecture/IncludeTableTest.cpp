@@ -33,9 +33,10 @@ Table allowed()
         {QStringLiteral("desktop"), set("platform base text store thumb")},
         {QStringLiteral("share"), set("platform base text store thumb")},
         {QStringLiteral("mainwindow"), set("platform base text store thumb")},
+        {QStringLiteral("browser"), set("platform base text store thumb")},
         {QStringLiteral("app"),
          set("platform platform/qt platform/linux base text store thumb notify service desktop "
-             "share mainwindow")},
+             "share mainwindow browser")},
         {QStringLiteral("server"), set("text server")},
     };
 }

@@ -107,3 +107,25 @@ TEST(RecordUpdatesTest, fallBackToTheLegacyCaptions)
         EXPECT_EQ(w.data(), before);
     }
 }
+
+TEST(RecordUpdatesTest, manyDeletionsAtOnceDoWhatOneByOneDoes)
+{
+    const QByteArray records =
+        "1\ta\thttp://x/t/p1.jpg\thttp://x/p1.jpg\tw\tc\ti\n"
+        "2\ta\thttp://x/t/p1.jpg\thttp://x/p2\tw\thas/p3.jpg\ti\n"
+        "2\ta\thttp://x/same-key.jpg\thttp://x/p4.jpg\tw\tc\ti\n\nshort\t/p5.jpg\n"
+        "3\ta\thttp://x/t.jpg\thttp://x/p3.jpg\tw\tc\ti";
+    const QStringList names{u"p1.jpg"_s, u"p2.jpg"_s, u"p1.jpg"_s, u"p3.jpg"_s,
+                            u""_s,       u"p4.jpg"_s, u"p5.jpg"_s, u"no.jpg"_s};
+    StoreWorld one;
+    StoreWorld many;
+    one.setData(records);
+    many.setData(records);
+    QStringList thumbs;
+    for (const QString &name : names)
+        thumbs.append(one.updates.storeDeletionForFileNameAndReturnThumb(name));
+    EXPECT_EQ(many.updates.storeDeletionsForFileNamesAndReturnThumbs(names), thumbs);
+    EXPECT_EQ(many.data(), one.data());
+    EXPECT_EQ(many.files.writes, 1);
+    EXPECT_TRUE(thumbs.contains(u"http://x/t/p1.jpg"_s));
+}

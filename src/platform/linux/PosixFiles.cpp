@@ -106,7 +106,7 @@ FileResult<struct stat> look(const QString &path)
     return info;
 }
 
-using EachName = std::function<void(const QByteArray &name, int folder)>;
+using EachName = std::function<void(const dirent &entry, int folder)>;
 
 FileResult<void> forEachName(const QString &folder, const EachName &visit)
 {
@@ -121,17 +121,20 @@ FileResult<void> forEachName(const QString &folder, const EachName &visit)
         const dirent *entry = ::readdir(dir.get());
         if (entry == nullptr)
             break;
-        visit(entry->d_name, ::dirfd(dir.get()));
+        visit(*entry, ::dirfd(dir.get()));
     }
     if (errno != 0)
         return failed(folder, errno);
     return {};
 }
 
-bool isPlain(int folder, const QByteArray &name, int flags)
+/// Most file systems tell the kind of a file with its name, which spares a look at each.
+bool isPlain(int folder, const dirent &entry, int flags)
 {
+    if (entry.d_type == DT_REG || entry.d_type == DT_DIR)
+        return entry.d_type == DT_REG;
     struct stat info = {};
-    return ::fstatat(folder, name.constData(), &info, flags) == 0 && S_ISREG(info.st_mode);
+    return ::fstatat(folder, entry.d_name, &info, flags) == 0 && S_ISREG(info.st_mode);
 }
 
 } // namespace
@@ -172,10 +175,13 @@ qint64 PosixFiles::size(const QString &path) const
 FileResult<QStringList> PosixFiles::list(const QString &folder) const
 {
     QStringList names;
-    const auto read = forEachName(folder, [&names](const QByteArray &name, int dir) {
+    const auto read = forEachName(folder, [&names](const dirent &entry, int dir) {
+        const QByteArray name = QByteArray::fromRawData(entry.d_name, qstrlen(entry.d_name));
+        if (name.startsWith('.') || !isPlain(dir, entry, 0))
+            return;
         const QString text = QFile::decodeName(name);
         // A name that is no text could not be opened again by its text.
-        if (!name.startsWith('.') && isPlain(dir, name, 0) && QFile::encodeName(text) == name)
+        if (QFile::encodeName(text) == name)
             names.append(text);
     });
     if (!read)
@@ -278,11 +284,11 @@ FileResult<std::unique_ptr<PartFile>> PosixFiles::startPart(const QString &targe
 
 void PosixFiles::removeParts(const QString &folder)
 {
-    const auto read = forEachName(folder, [&folder](const QByteArray &name, int dir) {
-        if (!PosixPart::isPartName(name) || !isPlain(dir, name, AT_SYMLINK_NOFOLLOW))
+    const auto read = forEachName(folder, [&folder](const dirent &entry, int dir) {
+        if (!PosixPart::isPartName(entry.d_name) || !isPlain(dir, entry, AT_SYMLINK_NOFOLLOW))
             return;
-        if (::unlinkat(dir, name.constData(), 0) != 0)
-            qCWarning(lcPlatform) << "cannot remove" << name << "in" << folder
+        if (::unlinkat(dir, entry.d_name, 0) != 0)
+            qCWarning(lcPlatform) << "cannot remove" << entry.d_name << "in" << folder
                                   << qt_error_string(errno);
     });
     if (!read)

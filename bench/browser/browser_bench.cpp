@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+// browser_bench [all|stay]: opens the browser on the collection below HOME (made by make_collection; XDG_DATA_HOME
+// is HOME/share) in the whole application and tells how long things take, as the user feels them: from the
+// command or the key to the painted window. With "all" it also scrolls until every picture has been shown; with
+// "stay" it only opens the browser, for scripts/bench-browser, which measures it beside other programs.
+#include "bench/app/RealPlatform.h"
+
+#include "app/MoravelAppDelegate.h"
+#include "browser/ImageBrowserView.h"
+#include "platform/qt/QtThumbnails.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace {
+
+using namespace moravel;
+
+double rssMb()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    return text.mid(text.indexOf("VmRSS:") + 6).trimmed().split(' ').first().toDouble() / 1024;
+}
+
+double milliseconds(const QElapsedTimer &clock)
+{
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
+void runUntil(const std::function<bool()> &done)
+{
+    QTimer tick;
+    tick.start(1);
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void rest(int ms)
+{
+    QElapsedTimer clock;
+    clock.start();
+    runUntil([&] { return clock.elapsed() >= ms; });
+}
+
+/// Counts the paintings of the image browser that showed pictures.
+class Paints : public QObject
+{
+public:
+    explicit Paints(ImageBrowserView &view) : m_view(view)
+    {
+        view.viewport()->installEventFilter(this);
+    }
+
+    int count = 0;
+
+private:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && m_view.model()->rowCount() > 0)
+            QMetaObject::invokeMethod(
+                this, [this] { ++count; }, Qt::QueuedConnection);
+        return false;
+    }
+
+    ImageBrowserView &m_view;
+};
+
+struct Figures
+{
+    std::vector<double> values;
+
+    void print(const char *what)
+    {
+        std::sort(values.begin(), values.end());
+        std::printf("%-28s median %6.1f ms, 99 %% %6.1f ms, worst %6.1f ms (%zu)\n", what,
+                    values[values.size() / 2], values[values.size() * 99 / 100], values.back(),
+                    values.size());
+    }
+};
+
+bool screenIsFull(const ImageBrowserView &view)
+{
+    const ImageGrid::Span visible = view.visibleItems();
+    for (int i = visible.first; i <= visible.last; ++i) {
+        if (!view.model()->index(i, 0).data(Qt::DecorationRole).isValid())
+            return false;
+    }
+    return visible.last >= visible.first;
+}
+
+void type(BrowserWindow &window, ImageBrowserView &view)
+{
+    auto *field = window.findChild<QLineEdit *>(QStringLiteral("searchField"));
+    Figures keys;
+    for (const char *text : {"harbour at dawn", "nebuleuse", "ÆGEAN SEA", "12345", "lodz aurora"}) {
+        const QString word = QString::fromUtf8(text);
+        for (int i = 0; i < 2 * word.size(); ++i) {
+            const bool back = i >= word.size();
+            QKeyEvent key(QEvent::KeyPress, back ? Qt::Key_Backspace : Qt::Key_unknown,
+                          Qt::NoModifier, back ? QString() : QString(word[i]));
+            QElapsedTimer clock;
+            clock.start();
+            QCoreApplication::sendEvent(field, &key);
+            view.viewport()->repaint(); // also where the same rows pass
+            QCoreApplication::processEvents();
+            keys.values.push_back(milliseconds(clock));
+        }
+    }
+    keys.print("keystroke to painted grid");
+}
+
+void scroll(ImageBrowserView &view, const char *what, int step, int frames)
+{
+    Figures figures;
+    QScrollBar *bar = view.verticalScrollBar();
+    bar->setValue(0);
+    for (int i = 0; i < frames; ++i) {
+        QElapsedTimer clock;
+        clock.start();
+        bar->setValue(bar->value() + step);
+        QCoreApplication::processEvents();
+        figures.values.push_back(milliseconds(clock));
+        rest(std::max(0, 16 - static_cast<int>(milliseconds(clock))));
+    }
+    figures.print(what);
+}
+
+void showAll(ImageBrowserView &view)
+{
+    QElapsedTimer clock;
+    clock.start();
+    QScrollBar *bar = view.verticalScrollBar();
+    for (bar->setValue(0);; bar->setValue(bar->value() + view.viewport()->height())) {
+        runUntil([&] { return screenIsFull(view); });
+        if (bar->value() == bar->maximum())
+            break;
+    }
+    std::printf("all pictures shown after     %.0f ms\n", milliseconds(clock));
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    bench::RealPlatform platform;
+    QtThumbnails thumbnails;
+    MoravelAppDelegate delegate(platform.lend(), std::nullopt,
+                                QStringLiteral("http://127.0.0.1:9/potd"), {}, &thumbnails);
+    delegate.applicationWillFinishLaunching();
+    delegate.window().show();
+    if (app.arguments().value(1) == u"stay") {
+        delegate.browser()->browser().picBrowser();
+        return QApplication::exec();
+    }
+    rest(500);
+    const double idle = rssMb();
+    Browser &browser = delegate.browser()->browser();
+    BrowserWindow &window = browser.browserWindow();
+    ImageBrowserView &view = window.imageBrowser();
+    Paints paints(view);
+    QElapsedTimer beat;
+    double gap = 0;
+    QTimer heart;
+    heart.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&heart, &QTimer::timeout, [&] {
+        gap = std::max(gap, milliseconds(beat));
+        beat.start();
+    });
+    beat.start();
+    heart.start(2);
+
+    QElapsedTimer clock;
+    clock.start();
+    browser.picBrowser();
+    runUntil([&] { return paints.count > 0; });
+    std::printf("%d pictures; first painted screen after %.0f ms\n", view.model()->rowCount(),
+                milliseconds(clock));
+    runUntil([&] { return screenIsFull(view); });
+    std::printf("first screenful of thumbnails %.0f ms\n", milliseconds(clock));
+    if (app.arguments().value(1) == u"all")
+        showAll(view);
+    rest(1000);
+    std::printf("longest gap of the main loop  %.0f ms\n", gap);
+    heart.stop();
+    type(window, view);
+    scroll(view, "frame, line by line", 60, 300);
+    scroll(view, "frame, end to end", std::max(1, view.verticalScrollBar()->maximum() / 300), 300);
+    rest(2000);
+    std::printf("memory over the idle window   %.0f MB\n", rssMb() - idle);
+    return 0;
+}

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Thumbnails.h"
+#include "platform/qt/ThumbnailCache.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+#include <atomic>
+#include <map>
+
+namespace moravel {
+
+/// Makes thumbnails in threads of its own, one a core, four at most. Wants a QtImages beside it, which sets
+/// the limits of the decoders. Destroying it stops what is being decoded; nothing more is delivered.
+class QtThumbnails : public Thumbnails
+{
+public:
+    /// @param cacheRoot the folder of the shared thumbnails.
+    explicit QtThumbnails(const QString &cacheRoot = standardCacheRoot());
+    ~QtThumbnails() override;
+
+    ThumbnailCallHandle load(const QString &path, QSize box,
+                             std::function<void(const Thumbnail &)> done) override;
+
+    static QString standardCacheRoot();
+
+private:
+    class Call;
+    struct Job;
+    using JobPtr = std::shared_ptr<Job>;
+
+    void finish(quint64 number, const Thumbnail &thumbnail);
+    void cancel(quint64 number);
+
+    ThumbnailCache m_cache;
+    QObject m_mainThread; ///< Receives the results; those still posted go with it.
+    quint64 m_next = 0;
+    std::map<quint64, JobPtr> m_jobs;
+    QThreadPool m_pool;
+};
+
+} // namespace moravel
