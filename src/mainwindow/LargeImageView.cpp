@@ -15,10 +15,11 @@ namespace {
 
 constexpr double ZoomStep = 1.25;
 constexpr int WheelNotch = 120; // eighths of a degree, times 8
-const QColor Ground(0x1c, 0x1c,
-                    0x1e); // neutral, whatever the theme: it must not tint the picture
-constexpr double SingleDots =
-    2; // device pixels per pixel from which on its pixels are shown as such
+constexpr int Coarse = 4; // pixels a sample of what is only shown until it is decoded again
+// Neutral, whatever the theme: it must not tint the picture.
+const QColor Ground(0x1c, 0x1c, 0x1e);
+// Device pixels per pixel from which on its pixels are shown as such.
+constexpr double SingleDots = 2;
 
 QPalette darkPalette(QPalette palette)
 {
@@ -148,10 +149,17 @@ void LargeImageView::drawPicture(QPainter &painter)
         painter.drawImage(QRectF(corner, QSizeF(image.size()) / ratio), image);
         return;
     }
+    const QRectF shown(corner, target.size());
+    // Back from a zoom: each pixel taken from a huge picture is a wait for memory.
+    if (perPixel < 1.0 / Coarse) {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(shown, image.scaled((pixels / Coarse).toSize().expandedTo({1, 1})));
+        return;
+    }
     // Until the decoding for this size is there, quickly rather than smoothly.
     painter.setRenderHint(QPainter::SmoothPixmapTransform,
                           m_loader.isSharp() && perPixel < SingleDots);
-    painter.drawImage(QRectF(corner, target.size()), image);
+    painter.drawImage(shown, image);
 }
 
 void LargeImageView::paintEvent(QPaintEvent *)
@@ -161,7 +169,7 @@ void LargeImageView::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Ground);
     if (!m_loader.image().isNull())
         drawPicture(painter);
-    if (m_focusShown) {
+    if (m_focusShown && !window()->isFullScreen()) { // where there is nothing else
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }

@@ -2,16 +2,29 @@
 #include "mainwindow/PicDetails.h"
 
 #include "mainwindow/CaptionLabel.h"
+#include "mainwindow/Icons.h"
 #include "mainwindow/PicInfo.h"
 
 #include <QEvent>
 #include <QScrollBar>
+
+#include <cstdlib>
 
 namespace moravel {
 
 namespace {
 
 constexpr int TypeSize = 13; // pixels
+
+/// Some dark palettes keep the dark blue of links on white.
+QColor readableLink(const QPalette &palette)
+{
+    constexpr int Apart = 100; // of 255
+    const QColor link = palette.color(QPalette::Link);
+    const int ground = palette.color(QPalette::Window).lightness();
+    const bool isReadable = std::abs(link.lightness() - ground) >= Apart;
+    return isReadable ? link : blend(link, palette.color(QPalette::WindowText), 0.4);
+}
 
 } // namespace
 
@@ -66,6 +79,8 @@ void PicDetails::followPalette()
     QPalette own;
     own.setColor(QPalette::Text, own.color(QPalette::WindowText));
     setPalette(own);
+    const QString link = readableLink(own).name();
+    document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link));
 }
 
 } // namespace moravel
