@@ -127,6 +127,9 @@ QString DesktopLab::shown(const QString &screen) const
 
 QImage DesktopLab::shot() const
 {
+    if (QStringList redraw = QProcess::splitCommand(qEnvironmentVariable("LAB_REDRAW"));
+        !redraw.isEmpty())
+        output(redraw.takeFirst(), redraw);
     QStringList command = QProcess::splitCommand(qEnvironmentVariable("LAB_SHOT"));
     if (command.isEmpty())
         return QGuiApplication::primaryScreen()->grabWindow(0, 0, 0, 1600, 600).toImage();

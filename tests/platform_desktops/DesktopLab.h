@@ -61,7 +61,7 @@ protected:
     QString set(const QString &path, const QString &screen, DesktopScaling scaling);
     QString shown(const QString &screen) const;
     /// A screenshot of all screens: by the command in LAB_SHOT, which takes a file name, else of the X
-    /// display.
+    /// display. A shell that paints nothing while nothing moves is woken by LAB_REDRAW.
     virtual QImage shot() const;
     /// Waits until a pixel of the first (0) or second (1) screen has a colour.
     bool seen(int screen, QPoint at, const QColor &colour, int milliseconds = 20'000);

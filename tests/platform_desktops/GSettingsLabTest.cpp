@@ -104,11 +104,26 @@ TEST_F(GSettingsLab, readsASlideshowAsItsFolderAndEndsIt)
                    + "</file></static></background>");
         setOutside(show.fileName());
     }
-    EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }));
+    EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }))
+        << qPrintable(shown(first));
     const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
     ASSERT_EQ(set(blue, first, DesktopScaling::Fill), QString());
     EXPECT_EQ(shown(first), blue);
     EXPECT_TRUE(seenOnAll(Qt::blue));
+}
+
+TEST_F(GSettingsLab, reportsAWriteThatIsRefusedLater)
+{
+    const QString red = picture(QStringLiteral("red.png"), Qt::red);
+    const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
+    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
+    // With a file in the place of its folder the settings' service cannot write.
+    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/dconf");
+    ASSERT_TRUE(QFile::rename(folder, folder + u'_') && QFile::copy(red, folder));
+    EXPECT_NE(set(blue, first, DesktopScaling::Fill), QString());
+    EXPECT_EQ(shown(first), red);
+    ASSERT_TRUE(QFile::remove(folder) && QFile::rename(folder + u'_', folder));
+    EXPECT_EQ(set(blue, first, DesktopScaling::Fill), QString());
 }
 
 TEST_F(GSettingsLab, followsThePluggedScreen)

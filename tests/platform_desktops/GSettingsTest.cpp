@@ -145,7 +145,7 @@ TEST_F(GSettings, setEveryKeyThatTheDesktopReads)
 
     const Case cases[] = {
         {"ubuntu:GNOME", "org.gnome.desktop.background", "picture-uri", false},
-        {"Budgie:GNOME", "org.gnome.desktop.background", "picture-uri-dark", false},
+        {"Pantheon", "org.gnome.desktop.background", "picture-uri-dark", false},
         {"MATE", "org.mate.background", "picture-filename", true},
         {"X-Cinnamon", "org.cinnamon.desktop.background", "picture-uri", false},
     };
@@ -166,6 +166,18 @@ TEST_F(GSettings, setEveryKeyThatTheDesktopReads)
     EXPECT_EQ(GSettingsKeys(QStringLiteral("org.mate.background")).flag("draw-background"), true);
     const GSettingsKeys slides(QStringLiteral("org.cinnamon.desktop.background.slideshow"));
     EXPECT_EQ(slides.flag("slideshow-enabled"), false);
+}
+
+TEST_F(GSettings, givesBudgieALinkToAnOddName)
+{
+    const QString path = picture(QStringLiteral("50%.png"), {20, 10});
+    const auto desktop = pictures("Budgie:GNOME");
+    EXPECT_EQ(set(*desktop, path, DesktopScaling::Fit), u"-");
+    EXPECT_EQ(desktop->desktopImageUrl({}), fileUrl(path));
+    const GSettingsKeys keys(QStringLiteral("org.gnome.desktop.background"));
+    const QString handed = pathOfUrl(keys.text("picture-uri").value_or(QString()));
+    EXPECT_FALSE(handed.contains(u'%'));
+    EXPECT_EQ(QFile::symLinkTarget(handed), path);
 }
 
 TEST_F(GSettings, followChangesFromOutside)

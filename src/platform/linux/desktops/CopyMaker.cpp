@@ -113,9 +113,7 @@ QString write(const QImage &image, const QDir &folder, const QString &name)
     return file;
 }
 
-} // namespace
-
-QString makeCopy(const CopyOrder &order, const std::atomic<bool> &stop)
+QString makeScaled(const CopyOrder &order, const std::atomic<bool> &stop)
 {
     // isFile() first: opening a pipe would wait for its writer.
     StoppableFile file(order.picture, stop);
@@ -141,6 +139,30 @@ QString makeCopy(const CopyOrder &order, const std::atomic<bool> &stop)
         return found;
     const QImage image = readCopy(reader, *plan, turned);
     return image.isNull() || stop ? QString() : write(image, folder, name);
+}
+
+QString makeLink(const CopyOrder &order)
+{
+    const QDir folder(order.folder);
+    const QString name = nameFor(order, {}) + QLatin1String(".jpg"); // desktops look into the file
+    if (folder.exists(name))
+        return name;
+    const QString path = folder.filePath(name);
+    QFile::remove(path); // one that leads nowhere
+    if (folder.mkpath(QStringLiteral(".")) && QFile::link(order.picture, path))
+        return name;
+    qCWarning(desktopsLog, "cannot write to %s", qUtf8Printable(folder.path()));
+    return {};
+}
+
+} // namespace
+
+QString makeCopy(const CopyOrder &order, const std::atomic<bool> &stop)
+{
+    const QString name = makeScaled(order, stop);
+    return name.isEmpty() && order.link && !stop && QFileInfo(order.picture).isFile()
+        ? makeLink(order)
+        : name;
 }
 
 bool isCopyName(const QString &name)

@@ -19,8 +19,9 @@ struct CopyOrder
     DesktopScaling scaling = DesktopScaling::Fill;
     QString folder; ///< Made when it is missing.
     int version = 0; ///< Another one gives another name.
-    bool cuts =
-        false; ///< To be stretched over the first screen: a copy in that shape, see planCut().
+    bool link = false; ///< Where no copy is worth it, a symbolic link takes its place.
+    /// To be stretched over the first screen: a copy in that shape, see planCut().
+    bool cuts = false;
 };
 
 /// Makes the copy unless it is there, and returns its file name in the folder. The name changes with

@@ -27,7 +27,7 @@ FileManagerPictures::FileManagerPictures(const FileManagerDesktop &desktop,
             onScreensChanged();
     })
     , m_settings(settingsPath(desktop, configFolder), [this] { refresh(); })
-    , m_copies(desktop.fill ? nullptr : std::make_unique<ScaledCopies>(copyFolder, true))
+    , m_copies(desktop.fill ? nullptr : std::make_unique<ScaledCopies>(copyFolder, false, true))
 {
     // Started again, it lays the picture out as its settings say, where its command leaves no trace.
     if (m_desktop.service) {

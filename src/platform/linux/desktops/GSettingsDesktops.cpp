@@ -16,7 +16,7 @@ constexpr const char *DarkUri = "picture-uri-dark";
 // Flashback calls itself "GNOME-Flashback:GNOME", Budgie "Budgie:GNOME": their own word comes first.
 // The last column is for the shells that paint with GNOME's own window manager library.
 constexpr GSettingsDesktop Rows[] = {
-    {"Budgie", "budgie", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, true},
+    {"Budgie", "budgie", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, true, true},
     {"Pantheon", "pantheon", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false, true},
     {"GNOME Flashback", "gnome-flashback", GnomeSchema, Uri, DarkUri, nullptr, nullptr, false,
      false},

@@ -21,6 +21,8 @@ struct GSettingsDesktop
     const char *slideshowSchema; ///< Has slideshow-enabled and image-source.
     bool plainPath; ///< The picture is a path rather than a URI.
     bool keepsPictures; ///< The shell never frees a picture: large ones are handed over as copies.
+    bool plainNamesOnly =
+        false; ///< It undoes escapes twice: names with %, # and ? need a stand-in.
 };
 
 /// Finds the row of a desktop by its word in XDG_CURRENT_DESKTOP, any case; null when there is none.

@@ -112,6 +112,11 @@ void GSettingsKeys::apply()
         g_settings_apply(m_glib->settings);
 }
 
+void GSettingsKeys::waitForWrites()
+{
+    g_settings_sync();
+}
+
 void GSettingsKeys::deliverChanges()
 {
     const auto *dispatcher = QAbstractEventDispatcher::instance();

@@ -34,6 +34,9 @@ public:
     void delay();
     void apply();
 
+    /// Returns when the settings' service has taken or refused all that was written. For worker threads.
+    static void waitForWrites();
+
     /// Called after any key of the schema has changed, also from outside.
     std::function<void()> onChanged;
 

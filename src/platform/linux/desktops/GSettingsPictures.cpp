@@ -33,7 +33,9 @@ GSettingsPictures::GSettingsPictures(const GSettingsDesktop &desktop, const QStr
     , m_keys(QString::fromLatin1(desktop.schema))
     , m_interface(QStringLiteral("org.gnome.desktop.interface"))
     , m_slideshow(QString::fromLatin1(desktop.slideshowSchema))
-    , m_copies(desktop.keepsPictures ? std::make_unique<ScaledCopies>(copyFolder) : nullptr)
+    , m_copies(desktop.keepsPictures
+                   ? std::make_unique<ScaledCopies>(copyFolder, desktop.plainNamesOnly)
+                   : nullptr)
     , m_screens([this] { onScreens(); })
 {
     m_keys.onChanged = m_interface.onChanged = m_slideshow.onChanged = [this] { refresh(); };
@@ -76,13 +78,15 @@ void GSettingsPictures::hand(const QString &file, DesktopScaling scaling, const 
         done(failure("The desktop's setting is locked or missing."));
         return;
     }
-    // A write that the settings' service refuses is undone in the meantime.
-    later([this, file, done] {
-        refresh();
-        if (m_file == file)
-            done({});
-        else
-            done(failure("The desktop did not keep the picture that it was given."));
+    m_confirmation.start([this, file, done] {
+        GSettingsKeys::waitForWrites();
+        later([this, file, done] {
+            refresh();
+            if (m_file == file)
+                done({});
+            else
+                done(failure("The desktop did not keep the picture that it was given."));
+        });
     });
 }
 

@@ -8,6 +8,7 @@
 #include "platform/linux/desktops/Screens.h"
 
 #include <QObject>
+#include <QThreadPool>
 
 #include <memory>
 
@@ -56,6 +57,8 @@ private:
     QString m_file; ///< Plain path of what the desktop shows; may be a copy of ours.
     QString m_url; ///< URL text of what the user sees in it.
     QObject m_context; ///< Queued calls go with it.
+    QThreadPool
+        m_confirmation; ///< Waits for the settings' service, which may refuse a write later.
 };
 
 } // namespace moravel

@@ -9,6 +9,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace moravel {
@@ -41,8 +42,8 @@ QList<QSize> toScreens(const QJsonArray &array)
 
 } // namespace
 
-ScaledCopies::ScaledCopies(const QString &folder, bool cuts)
-    : m_folder(QDir::cleanPath(folder)), m_cuts(cuts)
+ScaledCopies::ScaledCopies(const QString &folder, bool plainNames, bool cuts)
+    : m_folder(QDir::cleanPath(folder)), m_plainNames(plainNames), m_cuts(cuts)
 {
     m_pool.setMaxThreadCount(1);
     load();
@@ -58,7 +59,14 @@ ScaledCopies::~ScaledCopies()
 void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                            DesktopScaling scaling, std::function<void(QString)> done)
 {
-    const CopyOrder order{picture, screens, scaling, m_folder, versionFor(picture), m_cuts};
+    static const QRegularExpression special(QStringLiteral("[%#?]"));
+    const CopyOrder order{picture,
+                          screens,
+                          scaling,
+                          m_folder,
+                          versionFor(picture),
+                          m_plainNames && picture.contains(special),
+                          m_cuts};
     m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);
         const auto deliver = [this, order, name, done] {

@@ -19,9 +19,10 @@ namespace moravel {
 class ScaledCopies
 {
 public:
-    /// @p folder is made when the first copy is. @p cuts: for a desktop that fills a screen only by
+    /// @p folder is made when the first copy is. With @p plainNames a picture whose path has a %, # or ?
+    /// gets at least a link with a plain name. @p cuts: for a desktop that fills a screen only by
     /// stretching; its copies have the shape of the first screen.
-    explicit ScaledCopies(const QString &folder, bool cuts = false);
+    explicit ScaledCopies(const QString &folder, bool plainNames = false, bool cuts = false);
     ~ScaledCopies();
 
     /// Finds the file to hand to the desktop for @p picture (a plain path): a copy, made if it is
@@ -56,6 +57,7 @@ private:
     void removeOthers() const;
 
     QString m_folder;
+    bool m_plainNames;
     bool m_cuts;
     QList<Entry> m_entries; ///< The last one first; two at most.
     QObject m_mainThread; ///< Receives the results; those still posted go with it.
