@@ -55,6 +55,17 @@ owner() { gdbus call --session -d org.freedesktop.DBus -o / -m org.freedesktop.D
 
 another_owner() { local now; now=$(owner "$1") && [ "$now" != "$2" ]; }
 
+# stop_owner NAME: ends the process that has a name on the bus, and waits for that.
+stop_owner() {
+  local process
+  process=$(gdbus call --session -d org.freedesktop.DBus -o / \
+    -m org.freedesktop.DBus.GetConnectionUnixProcessID "$1" | grep -oE '[0-9]+,')
+  kill "${process%,}"
+  while kill -0 "${process%,}" 2>/dev/null; do sleep 0.05; done
+}
+
+window_manager() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q '#'; }
+
 # A system bus with nobody on it: some shells do not start without one.
 system_bus() {
   cat >"$lab/system.conf" <<X

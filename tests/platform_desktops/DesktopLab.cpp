@@ -255,9 +255,27 @@ void DesktopLab::takesOddNames()
         SCOPED_TRACE(qPrintable(name));
         const QColor colour = QColor::fromHsv(hue += 50, 255, 200);
         const QString path = picture(name, colour);
-        ASSERT_EQ(set(path, second, DesktopScaling::Fill), QString());
+        const QString before = shown(second);
+        const QString error = set(path, second, DesktopScaling::Fill);
+        if (m_refused.contains(name)) {
+            EXPECT_NE(error, QString());
+            EXPECT_EQ(shown(second), before);
+            continue;
+        }
+        ASSERT_EQ(error, QString());
         EXPECT_EQ(shown(second), path);
         EXPECT_TRUE(seen(m_painted.last(), Middle, colour));
+    }
+}
+
+void DesktopLab::repaintsARewrittenFile()
+{
+    const QString name = QStringLiteral("same.png");
+    for (const QColor &colour : {QColor(Qt::red), QColor(Qt::blue), QColor(Qt::green)}) {
+        const QString path = picture(name, colour);
+        ASSERT_EQ(set(path, first, DesktopScaling::Fill), QString());
+        EXPECT_EQ(shown(first), path);
+        EXPECT_TRUE(seen(0, Middle, colour));
     }
 }
 
@@ -317,6 +335,11 @@ void DesktopLab::comesBackAfterRestart(const std::function<void()> &restart)
     restart();
     EXPECT_TRUE(seenOnAll(Qt::red, 2'000));
     EXPECT_EQ(shown(first), red);
+}
+
+void DesktopLab::restart()
+{
+    ASSERT_EQ(run(QStringLiteral("bash"), {QStringLiteral("-c"), QStringLiteral("restart")}), 0);
 }
 
 } // namespace moravel::testing

@@ -41,6 +41,7 @@ protected:
     virtual void plug(bool in);
 
     QList<int> m_painted{0, 1}; ///< The screens that the desktop paints at all.
+    QStringList m_refused; ///< The odd names that it cannot keep.
 
     // Tools ------------------------------------------------------------------------------------
 
@@ -61,7 +62,7 @@ protected:
     QString shown(const QString &screen) const;
     /// A screenshot of all screens: by the command in LAB_SHOT, which takes a file name, else of the X
     /// display. A shell that paints nothing while nothing moves is woken by LAB_REDRAW.
-    QImage shot() const;
+    virtual QImage shot() const;
     /// Waits until a pixel of the first (0) or second (1) screen has a colour.
     bool seen(int screen, QPoint at, const QColor &colour, int milliseconds = 20'000);
     /// The same for the middle of all painted screens.
@@ -77,6 +78,8 @@ protected:
     void setsOneScreenAndBoth();
     void laysOutEachSizing();
     void takesOddNames();
+    /// The same path with another picture.
+    void repaintsARewrittenFile();
     /// Also in the program's desktop cell.
     void noticesChangesFromOutside();
     /// A desktop with one picture for all screens; the program says so once.
@@ -84,6 +87,8 @@ protected:
     void followsThePluggedScreen();
     /// @param restart returns when the desktop is there again.
     void comesBackAfterRestart(const std::function<void()> &restart);
+    /// The lab's own function of that name.
+    static void restart();
 
     QTemporaryDir m_folder;
     static inline QTemporaryDir s_support; ///< Kept between the tests, as between two starts.

@@ -79,6 +79,11 @@ TEST_F(GSettingsLab, takesOddNames)
     takesOddNames();
 }
 
+TEST_F(GSettingsLab, repaintsARewrittenFile)
+{
+    repaintsARewrittenFile();
+}
+
 TEST_F(GSettingsLab, noticesChangesFromOutside)
 {
     noticesChangesFromOutside();
@@ -130,10 +135,7 @@ TEST_F(GSettingsLab, comesBackAfterRestart)
 {
     if (QGuiApplication::platformName() != u"xcb")
         GTEST_SKIP() << "the session ends with its compositor";
-    comesBackAfterRestart([] {
-        ASSERT_EQ(run(QStringLiteral("bash"), {QStringLiteral("-c"), QStringLiteral("restart")}),
-                  0);
-    });
+    comesBackAfterRestart(restart);
 }
 
 } // namespace

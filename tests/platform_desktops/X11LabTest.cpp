@@ -23,6 +23,16 @@ TEST_F(X11Lab, takesOddNames)
     takesOddNames();
 }
 
+TEST_F(X11Lab, repaintsARewrittenFile)
+{
+    repaintsARewrittenFile();
+}
+
+TEST_F(X11Lab, followsThePluggedScreen)
+{
+    followsThePluggedScreen();
+}
+
 TEST_F(X11Lab, keepsThePictureWhenThePictureCannotBeRead)
 {
     const QString red = picture(QStringLiteral("red.png"), {900, 700}, Qt::red);
