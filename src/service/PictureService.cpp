@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "service/PictureService.h"
 
+#include "service/Decoding.h"
+#include "service/Logging.h"
+
 namespace moravel {
 
 PictureService::PictureService(const ServiceContext &context, const QString &baseUrl)
@@ -20,10 +23,22 @@ PictureService::PictureService(const ServiceContext &context, const QString &bas
                   })
     , m_thumbDisplay(m_context, m_queue, m_fetch,
                      [this](const Then &then) { m_thumbPass.loadNextThumb(then); })
+    , m_captionRefresh(m_context, m_urls, m_fetch)
 {
     m_data.setDisplayThumb([this](const QString &source, const Then &then) {
         m_thumbDisplay.displayThumbForSource(source, then);
     });
+}
+
+void PictureService::findThumb(const QString &shortSource, const QString &shortDate,
+                               const std::function<void(const QString &)> &done) const
+{
+    m_fetch.get(m_urls.thumb(shortSource, shortDate), httplimits::Text,
+                [done](const FetchResult &result) {
+                    if (!result)
+                        qCInfo(lcService) << "thumb not found:" << result.error().description;
+                    done(linkFromAnswer(result.value_or(QByteArray())));
+                });
 }
 
 } // namespace moravel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "service/CaptionRefresh.h"
 #include "service/News.h"
 #include "service/PageLookup.h"
 #include "service/PictureData.h"
@@ -8,6 +9,8 @@
 #include "service/SourceList.h"
 #include "service/ThumbDisplay.h"
 #include "service/ThumbPass.h"
+
+#include <functional>
 
 namespace moravel {
 
@@ -27,7 +30,23 @@ public:
 
     Downloads &downloads() { return m_picturePass.downloads(); }
 
+    CaptionRefresh &captionRefresh() { return m_captionRefresh; }
+
     void refreshDataForThumb(ThumbView &cell) { m_thumbPass.refreshDataForThumb(cell, m_urls); }
+
+    /// Asks for the thumbnail link of a picture; gives "" when there is none. Nothing of the program's own
+    /// sequence happens until it has been dealt with.
+    void findThumb(const QString &shortSource, const QString &shortDate,
+                   const std::function<void(const QString &link)> &done) const;
+
+    /// Shows the thumbnail of the cell of a source and lets the pass go on.
+    void displayThumbForSource(const QString &name, const Then &then)
+    {
+        m_thumbDisplay.displayThumbForSource(name, then);
+    }
+
+    /// Goes on downloading the large pictures that are missing.
+    void loadNextPic() { m_picturePass.loadNextPic(); }
 
 private:
     ServiceContext m_context;
@@ -42,6 +61,7 @@ private:
     PicturePass m_picturePass;
     ThumbPass m_thumbPass;
     ThumbDisplay m_thumbDisplay;
+    CaptionRefresh m_captionRefresh;
 };
 
 } // namespace moravel

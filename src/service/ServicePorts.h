@@ -19,6 +19,10 @@ public:
     virtual QString currentLargePicPath() const = 0;
     virtual bool isShowing(const ThumbView &cell) const = 0;
     virtual void showLargePic(ThumbView &cell) = 0;
+
+    /// Shows, in place of the text, that caption and text are being looked up.
+    virtual void showLookingForInfo() { }
+
     /// Shows the progress of the file it waits for; no percentage means an unknown length.
     virtual void showProgress(std::optional<float> percent, const QString &text) = 0;
     virtual void hideProgress() = 0;
@@ -34,6 +38,8 @@ struct ServicePorts
     std::function<QString()> currentDesktopPath;
     /// Changes the desktop because the picture of the desktop is being fetched anew.
     std::function<void(ThumbView &)> rotateDesktop;
+    /// Restores the deleted picture of a cell.
+    std::function<void(ThumbView &)> reloadDeletedPic;
     std::function<void()> loadNews;
     /// Tells the user of a finished picture file.
     std::function<void(const ThumbView &, const QString &path)> newPicture;

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+#include "support/FakeMainLoop.h"
+#include "support/TempHome.h"
+#include "support/Volume.h"
+#include "support/Wait.h"
+
+#include "platform/linux/LinuxTrash.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace moravel {
+namespace {
+
+using namespace testing;
+
+class TrashOfHome : public ::testing::Test
+{
+protected:
+    FileResult<void> discard(const QString &path, int second = 0) const
+    {
+        return trash.moveToTrash(path, QDateTime(QDate(2011, 7, 4), QTime(9, 30, second)));
+    }
+
+    QStringList inTrash(const QString &folder = QStringLiteral("Trash")) const
+    {
+        const QDir dir(home.path(folder));
+        const auto all = QDir::Files | QDir::Hidden | QDir::System;
+        return QDir(dir.filePath(QStringLiteral("files"))).entryList(all)
+            + QDir(dir.filePath(QStringLiteral("info"))).entryList(all);
+    }
+
+    const TempHome home;
+    const PosixTrash trash{home.path(QStringLiteral("Trash"))};
+};
+
+TEST_F(TrashOfHome, KeepsAFileAndGivesItBack)
+{
+    for (const QString &name :
+         {QStringLiteral("a.jpg"), QStringLiteral("no extension"),
+          QStringLiteral("\u00fc [100%] #?.jpg"), QStringLiteral("a\nPath=b.jpg"),
+          QStringLiteral(".hidden"), QString(120, u'\u00e9') + u'x'}) {
+        SCOPED_TRACE(qPrintable(name));
+        const QString path = home.write(QStringLiteral("Pictures/p q/") + name, "bytes");
+        ASSERT_TRUE(discard(path));
+        EXPECT_FALSE(QFile::exists(path));
+        EXPECT_EQ(inTrash().size(), 2);
+        ASSERT_TRUE(trash.restore(path));
+        EXPECT_EQ(TempHome::read(path), "bytes");
+        EXPECT_TRUE(inTrash().isEmpty());
+        EXPECT_FALSE(trash.restore(home.path(name))) << "nothing is left to restore";
+    }
+    const QString path = home.write(QStringLiteral("p q/\u00fc%.jpg"), "x");
+    ASSERT_TRUE(discard(path, 5));
+    const QByteArray folder = QDir(home.path()).canonicalPath().toUtf8().toPercentEncoding("/");
+    EXPECT_EQ(TempHome::read(home.path(QStringLiteral("Trash/info/\u00fc%.jpg.trashinfo"))),
+              "[Trash Info]\nPath=" + folder
+                  + "/p%20q/%C3%BC%25.jpg\nDeletionDate=2011-07-04T09:30:05\n");
+}
+
+TEST_F(TrashOfHome, TellsFilesOfOneNameApart)
+{
+    const QString picture = QStringLiteral("Pictures/x.jpg");
+    const QString path = home.write(picture, "old");
+    const QString thumb = home.write(QStringLiteral("Pictures/thumbs/x.jpg"), "thumb");
+    ASSERT_TRUE(discard(path, 1));
+    home.write(picture, "later");
+    ASSERT_TRUE(discard(path, 2));
+    home.write(picture, "in the same second");
+    ASSERT_TRUE(discard(path, 2));
+    ASSERT_TRUE(discard(thumb, 3));
+    EXPECT_EQ(inTrash().first(4),
+              (QStringList{QStringLiteral("x.2.jpg"), QStringLiteral("x.3.jpg"),
+                           QStringLiteral("x.4.jpg"), QStringLiteral("x.jpg")}));
+
+    for (const char *expected : {"in the same second", "later", "old"}) {
+        ASSERT_TRUE(trash.restore(path));
+        EXPECT_EQ(TempHome::read(path), expected);
+        EXPECT_FALSE(trash.restore(path)) << "overwrites";
+        EXPECT_EQ(TempHome::read(path), expected);
+        QFile::remove(path);
+    }
+    EXPECT_FALSE(trash.restore(path)) << "the thumbnail is another file";
+    ASSERT_TRUE(trash.restore(thumb));
+    EXPECT_EQ(TempHome::read(thumb), "thumb");
+    EXPECT_TRUE(inTrash().isEmpty());
+}
+
+TEST_F(TrashOfHome, GoesByNameWhenThePictureFolderWasMoved)
+{
+    ASSERT_TRUE(discard(home.write(QStringLiteral("Pictures/Moravel/x.jpg"), "x")));
+    const QString moved = home.path(QStringLiteral("Bilder/Moravel/x.jpg"));
+    EXPECT_FALSE(trash.restore(moved)) << "no folder to restore to";
+    QDir(home.path()).mkpath(QStringLiteral("Bilder/Moravel/thumbs"));
+    EXPECT_FALSE(trash.restore(home.path(QStringLiteral("Bilder/Moravel/thumbs/x.jpg"))));
+    ASSERT_TRUE(trash.restore(moved));
+    EXPECT_EQ(TempHome::read(moved), "x");
+}
+
+TEST_F(TrashOfHome, PassesOverStrangeEntries)
+{
+    const QString path = home.write(QStringLiteral("Pictures/x.jpg"), "x");
+    ASSERT_TRUE(discard(path));
+    const QByteArray entry =
+        "[Trash Info]\nPath=" + path.toUtf8() + "\nDeletionDate=2030-01-01T00:00:00\n";
+    home.write(QStringLiteral("Trash/info/gone.trashinfo"), entry);
+    home.write(QStringLiteral("Trash/info/folder.trashinfo"), entry);
+    QDir(home.path()).mkpath(QStringLiteral("Trash/files/folder"));
+    home.write(QStringLiteral("Trash/info/empty.trashinfo"), "");
+    home.write(QStringLiteral("Trash/info/large.trashinfo"), QByteArray(1 << 20, '\n'));
+    home.write(QStringLiteral("Trash/info/date.trashinfo"),
+               "[Trash Info]\nPath=" + path.toUtf8() + "\nDeletionDate=z\n");
+    home.write(QStringLiteral("Trash/files/date"), "undated");
+    ::mkfifo(home.path(QStringLiteral("Trash/info/pipe.trashinfo")).toUtf8().constData(), 0600);
+    ASSERT_TRUE(trash.restore(path));
+    EXPECT_EQ(TempHome::read(path), "x");
+
+    for (const QString &bad :
+         {QString(), QStringLiteral("x.jpg"), home.path(), home.path(QStringLiteral("none"))})
+        EXPECT_FALSE(discard(bad)) << qPrintable(bad);
+}
+
+TEST_F(TrashOfHome, LeavesAFileThatItCannotTake)
+{
+    const QString path = home.write(QStringLiteral("x.jpg"), "x");
+    for (const char *blocked : {"Trash", "Trash/files", "Trash/info"}) {
+        const QString file = home.write(QString::fromUtf8(blocked), "no folder");
+        EXPECT_FALSE(discard(path)) << blocked;
+        EXPECT_EQ(TempHome::read(path), "x");
+        QFile::remove(file);
+        QDir(home.path(QStringLiteral("Trash"))).removeRecursively();
+    }
+}
+
+class TrashOfVolume : public TrashOfHome
+{
+protected:
+    void SetUp() override
+    {
+        if (!volume.isMounted())
+            GTEST_SKIP() << "a second volume needs the right to mount: " << volume.error();
+        path = home.write(QStringLiteral("volume/p/x.jpg"), "x");
+    }
+
+    Volume volume{home.path(QStringLiteral("volume"))};
+    QString own = QStringLiteral("volume/.Trash-%1").arg(::geteuid());
+    QString shared = QStringLiteral("volume/.Trash");
+    QString path;
+};
+
+TEST_F(TrashOfVolume, StaysOnTheVolume)
+{
+    const QString folder = home.path(shared);
+    const auto provide = [&](const char *what) {
+        QDir(folder).removeRecursively();
+        QFile::remove(folder);
+        if (qstrcmp(what, "link") == 0)
+            QFile::link(home.path(QStringLiteral("elsewhere")), folder);
+        else if (qstrcmp(what, "nothing") != 0)
+            QDir().mkpath(folder);
+        ::chmod(folder.toUtf8().constData(), qstrcmp(what, "sticky") == 0 ? 01777 : 0777);
+    };
+    QDir(home.path()).mkpath(QStringLiteral("elsewhere"));
+    for (const char *what : {"nothing", "not sticky", "link", "sticky"}) {
+        SCOPED_TRACE(what);
+        provide(what);
+        const QString used =
+            qstrcmp(what, "sticky") == 0 ? shared + u'/' + QString::number(::geteuid()) : own;
+        ASSERT_TRUE(discard(path, 7));
+        EXPECT_EQ(inTrash(used),
+                  (QStringList{QStringLiteral("x.jpg"), QStringLiteral("x.jpg.trashinfo")}));
+        EXPECT_EQ(TempHome::read(home.path(used + QStringLiteral("/info/x.jpg.trashinfo"))),
+                  "[Trash Info]\nPath=p/x.jpg\nDeletionDate=2011-07-04T09:30:07\n");
+        ASSERT_TRUE(trash.restore(path));
+        EXPECT_EQ(TempHome::read(path), "x");
+        EXPECT_TRUE(inTrash(used).isEmpty());
+    }
+    EXPECT_FALSE(QFile::exists(home.path(QStringLiteral("Trash"))));
+}
+
+TEST_F(TrashOfVolume, IsNotLedAstray)
+{
+    QDir(home.path()).mkpath(QStringLiteral("elsewhere"));
+    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), home.path(own)));
+    EXPECT_FALSE(discard(path));
+    EXPECT_EQ(TempHome::read(path), "x");
+    EXPECT_TRUE(QDir(home.path(QStringLiteral("elsewhere"))).isEmpty());
+}
+
+TEST_F(TrashOfVolume, FullOrReadOnlyItLosesNothing)
+{
+    const QString filler = home.path(QStringLiteral("volume/filler"));
+    {
+        QFile file(filler);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+        while (file.write(QByteArray(4096, 'x')) > 0) { }
+    }
+    EXPECT_FALSE(discard(path));
+    EXPECT_EQ(TempHome::read(path), "x");
+    EXPECT_TRUE(inTrash(own).isEmpty());
+    QFile::remove(filler);
+
+    ASSERT_TRUE(discard(path));
+    const QString other = home.write(QStringLiteral("volume/other.jpg"), "other");
+    ASSERT_TRUE(volume.setReadOnly(true)) << volume.error();
+    EXPECT_FALSE(trash.restore(path));
+    EXPECT_FALSE(discard(other));
+    EXPECT_EQ(TempHome::read(other), "other");
+    ASSERT_TRUE(volume.setReadOnly(false)) << volume.error();
+    ASSERT_TRUE(trash.restore(path));
+    EXPECT_EQ(TempHome::read(path), "x");
+}
+
+TEST_F(TrashOfVolume, WithoutTheRightToMakeOneTheFileStays)
+{
+    constexpr uid_t nobody = 65534;
+    const QByteArray folder = home.path(QStringLiteral("volume/p")).toUtf8();
+    ASSERT_EQ(::chmod(home.path().toUtf8().constData(), 0755), 0);
+    ASSERT_EQ(::chown(folder.constData(), nobody, nobody), 0);
+    ASSERT_EQ(::seteuid(nobody), 0);
+    const auto moved = discard(path);
+    ASSERT_EQ(::seteuid(0), 0);
+    EXPECT_FALSE(moved);
+    EXPECT_EQ(TempHome::read(path), "x");
+}
+
+TEST_F(TrashOfHome, WorksInOrderAndAnswersLater)
+{
+    FakeMainLoop loop;
+    LinuxTrash worker(loop, trash);
+    const QString path = home.write(QStringLiteral("x.jpg"), "x");
+    QList<bool> answers;
+    const auto note = [&](const QList<FileResult<void>> &results) {
+        for (const auto &result : results)
+            answers.append(result.has_value());
+    };
+    worker.moveToTrash({path, home.path(QStringLiteral("none"))}, note);
+    worker.restore({path}, note);
+    worker.moveToTrash({}, {});
+    EXPECT_TRUE(answers.isEmpty());
+    MORAVEL_WAIT(answers.size() == 3);
+    EXPECT_EQ(answers, (QList<bool>{true, false, true}));
+    EXPECT_EQ(TempHome::read(path), "x");
+    EXPECT_TRUE(inTrash().isEmpty());
+}
+
+} // namespace
+} // namespace moravel
