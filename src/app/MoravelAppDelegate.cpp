@@ -40,6 +40,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
     if (desktop)
         buildDesktop(*desktop);
+    if (m_platform.trash)
+        buildPictureActions(*m_platform.trash);
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -57,6 +59,15 @@ void MoravelAppDelegate::buildDesktop(const DesktopPlatform &desktop)
     };
 }
 
+void MoravelAppDelegate::buildPictureActions(Trash &trash)
+{
+    m_pictureActions =
+        std::make_unique<PictureActions>(m_context, m_service, trash, m_desktop.get());
+    m_ports.reloadDeletedPic = [this](ThumbView &cell) {
+        m_pictureActions->reloadDeletedPic(cell);
+    };
+}
+
 ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
 {
     // A command that comes while the program waits for an answer takes its turn after it.
@@ -68,6 +79,12 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
     ThumbCommands commands;
     commands.refreshDataForThumb =
         inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    commands.refreshCaption = inTurn(
+        [this](ThumbView &cell) { m_service.captionRefresh().implementRefreshCaption(cell); });
+    if (m_platform.trash) {
+        commands.deletePic = inTurn(
+            [this](ThumbView &cell) { m_pictureActions->deletePic(cell, DeleteSender::Cell); });
+    }
     if (!withDesktop)
         return commands;
     constexpr int DoubleClick = 2; // the cell has counted the clicks already

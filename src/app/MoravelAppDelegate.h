@@ -3,6 +3,7 @@
 
 #include "app/DesktopSide.h"
 #include "app/Options.h"
+#include "app/PictureActions.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
 #include "base/Preferences.h"
@@ -47,6 +48,7 @@ public:
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
+    void buildPictureActions(Trash &trash);
     void buildWindow();
     void logFolders();
     void sourcesAreKnown();
@@ -69,6 +71,7 @@ private:
     ServiceContext m_context;
     PictureService m_service;
     std::unique_ptr<DesktopSide> m_desktop;
+    std::unique_ptr<PictureActions> m_pictureActions;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 #include "app/Version.h"
+#include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
 #include "platform/linux/session/DBusNotifications.h"
+#include "platform/linux/session/GioPrograms.h"
 #include "platform/linux/session/LinuxWorkspace.h"
 #include "platform/linux/session/QtTray.h"
 #include "platform/linux/session/SessionEvents.h"
@@ -92,9 +94,12 @@ int runApplication(QApplication &app, const Options &options)
     QtAlerts alerts;
     QtImages images;
     QtRandom random;
+    LinuxTrash trash(loop);
+    GioPrograms programs;
     LinuxDesktop desktop(loop, files, images);
-    MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                desktop.lend(), QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
+    MoravelAppDelegate delegate(
+        {loop, http, defaults, files, alerts, images, random, &trash, &programs}, desktop.lend(),
+        QStringLiteral(MORAVEL_SERVICE_BASE_URL), options);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();
