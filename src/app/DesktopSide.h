@@ -39,6 +39,12 @@ public:
 
     DesktopManagement &management() { return m_management; }
 
+    /// Enters what restores the deleted picture of a cell.
+    void setReloadDeletedPic(std::function<void(ThumbView &)> reload)
+    {
+        m_ports.reloadDeletedPic = std::move(reload);
+    }
+
     GrowlAlert &growl() { return m_growl; }
 
     Workspace &workspace() { return m_platform.workspace; }

@@ -3,6 +3,7 @@
 
 #include "mainwindow/CellWidget.h"
 #include "mainwindow/LargePicWindow.h"
+#include "text/InfoText.h"
 
 #include <QAction>
 #include <QMenu>
@@ -38,6 +39,14 @@ LargePicPorts LargePicSide::ports(PictureService &service, ShareSide &share, Des
                              m_context.dates.shortDateFromLocalDate(cell.dateString()),
                              std::move(done));
     };
+    ports.refreshCaption = [&service, &loop = m_context.platform.loop](ThumbView &cell) {
+        loop.inOrder([&service, &cell] { service.captionRefresh().implementRefreshCaption(cell); });
+    };
+    ports.sanitised = [](const QString &html) { return sanitisedInfoText(html); };
+    if (DefaultPrograms *programs = m_context.platform.programs)
+        ports.iconForScheme = [programs](const QString &scheme) {
+            return programs->iconForScheme(scheme);
+        };
     ports.openUrl = [&share](const QString &address) { share.openUrl(address); };
     ports.shareEmail = [&share](ThumbView &cell) { share.shareEmail(cell); };
     ports.shareFacebook = [&share](ThumbView &cell) { share.shareFacebook(cell); };

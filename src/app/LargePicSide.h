@@ -42,6 +42,8 @@ public:
 
     void hideCantShow() override { m_largePic.hideCantShow(); }
 
+    void showLookingForInfo() override { m_largePic.showLookingForInfo(); }
+
     void displayPicFile(const QString &path) override { m_largePic.displayPicFile(path); }
 
 private:

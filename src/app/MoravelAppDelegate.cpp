@@ -49,6 +49,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
         buildDesktop(*desktop);
     m_largePic = std::make_unique<LargePicSide>(m_context, m_service, m_share, m_desktop.get());
     m_ports.largePic = m_largePic.get();
+    if (m_platform.trash)
+        buildPictureActions(*m_platform.trash);
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -63,6 +65,20 @@ void MoravelAppDelegate::buildDesktop(const DesktopPlatform &desktop)
     };
     m_ports.newPicture = [this](const ThumbView &cell, const QString &path) {
         m_desktop->growl().newPicture(cell, path);
+    };
+}
+
+void MoravelAppDelegate::buildPictureActions(Trash &trash)
+{
+    m_pictureActions =
+        std::make_unique<PictureActions>(m_context, m_service, trash, m_desktop.get());
+    const auto reload = [this](ThumbView &cell) { m_pictureActions->reloadDeletedPic(cell); };
+    m_ports.reloadDeletedPic = reload;
+    LargePicPorts &large = m_largePic->largePic().ports();
+    large.reloadDeletedPic = reload;
+    large.deletePic = [this](ThumbView &cell) {
+        m_platform.loop.inOrder(
+            [this, &cell] { m_pictureActions->deletePic(cell, DeleteSender::LargePicWindow); });
     };
 }
 
@@ -81,6 +97,12 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
         const bool isDesktop = cell.tag() == ThumbView::DesktopTag;
         largePic().showLargePic(cell, isDesktop ? DoubleClick : 1);
     };
+    commands.refreshCaption = inTurn(
+        [this](ThumbView &cell) { m_service.captionRefresh().implementRefreshCaption(cell); });
+    if (m_platform.trash) {
+        commands.deletePic = inTurn(
+            [this](ThumbView &cell) { m_pictureActions->deletePic(cell, DeleteSender::Cell); });
+    }
     if (!withDesktop)
         return commands;
     commands.setAsDesktop = inTurn(
@@ -129,6 +151,11 @@ void MoravelAppDelegate::buildWindow()
         m_browser = std::make_unique<BrowserSide>(m_context, m_legacy, m_preferences, *m_thumbnails,
                                                   m_desktop.get());
         m_browser->attachWindow(*m_window);
+        if (m_platform.trash)
+            m_browser->setTrash(
+                [trash = m_platform.trash](const QStringList &paths, std::function<void()> done) {
+                    trash->moveToTrash(paths, [done = std::move(done)](const auto &) { done(); });
+                });
         ports.addSourcePopupItem = [this](const QString &longName) {
             m_browser->browser().addSourcePopupItem(longName);
         };

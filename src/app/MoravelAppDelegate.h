@@ -5,6 +5,7 @@
 #include "app/DesktopSide.h"
 #include "app/LargePicSide.h"
 #include "app/Options.h"
+#include "app/PictureActions.h"
 #include "app/ShareSide.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
@@ -60,6 +61,7 @@ public:
 private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
+    void buildPictureActions(Trash &trash);
     void buildWindow();
     void logFolders();
     void sourcesAreKnown();
@@ -85,6 +87,7 @@ private:
     PictureService m_service;
     std::unique_ptr<DesktopSide> m_desktop;
     ShareSide m_share;
+    std::unique_ptr<PictureActions> m_pictureActions;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

@@ -2,9 +2,11 @@
 #include "app/MoravelAppDelegate.h"
 #include "app/RemoteActions.h"
 #include "app/Version.h"
+#include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
 #include "platform/linux/session/DBusNotifications.h"
+#include "platform/linux/session/GioPrograms.h"
 #include "platform/linux/session/LinuxWorkspace.h"
 #include "platform/linux/session/ProgramInstance.h"
 #include "platform/linux/session/ProgramName.h"
@@ -149,9 +151,12 @@ int runApplication(QApplication &app, const Options &options)
     QtUrlOpener urls;
     QtClipboard clipboard;
     QtThumbnails thumbnails;
+    LinuxTrash trash(loop);
+    GioPrograms programs;
     LinuxDesktop desktop(loop, files, images);
-    MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random},
-                                desktop.lend(), shareSetup(urls, clipboard), options, &thumbnails);
+    MoravelAppDelegate delegate(
+        {loop, http, defaults, files, alerts, images, random, &trash, &programs}, desktop.lend(),
+        shareSetup(urls, clipboard), options, &thumbnails);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();

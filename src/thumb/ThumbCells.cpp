@@ -15,6 +15,7 @@ void ThumbCells::createSpecialCells(const QDateTime &now)
     ThumbButtons buttons = m_desktopThumb->buttons();
     buttons.newDesktopBtn = true;
     buttons.prevDesktopBtn = false; // until there is a desktop to go back to
+    buttons.deleteBtn = false; // until there is a picture
     buttons.infoButton = false;
     buttons.refreshButton = false;
     m_desktopThumb->setButtons(buttons);
@@ -29,6 +30,7 @@ ThumbView &ThumbCells::addThumbView(const QString &longName, const QString &shor
         std::make_unique<ThumbView>(ThumbView::GridTag + count(), m_images, m_commands, now);
     ThumbButtons buttons = cell->buttons();
     buttons.newDesktopBtn = false;
+    buttons.deleteBtn = false; // until there is a picture
     cell->setButtons(buttons);
     cell->showSource(longName, shortName);
     return *m_thumbViews.emplace_back(std::move(cell));

@@ -136,8 +136,15 @@ void ThumbView::setClickerToolTip(const QString &text)
 
 void ThumbView::setThumbAsDesktop(int clickCount)
 {
-    if (clickCount >= 2)
-        call(m_tag == DesktopTag ? m_commands.showLargePic : m_commands.setAsDesktop, *this);
+    if (clickCount < 2)
+        return;
+    const bool isDeleted = m_thumbPath == deletedMark();
+    if (m_tag == DesktopTag)
+        call(m_commands.showLargePic, *this);
+    else if (isDeleted && !m_commands.setAsDesktop) // which would restore it
+        call(m_commands.refreshCaption, *this);
+    else
+        call(m_commands.setAsDesktop, *this);
 }
 
 void ThumbView::refreshCaption(int clickCount)
