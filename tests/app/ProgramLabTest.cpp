@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+// The real program on a bare X screen without a tray, driven as a user does: window manager, launcher, command
+// line.
+#include "support/Lab.h"
+
+#include <QDir>
+#include <QSettings>
+
+using namespace moravel::testing;
+
+namespace {
+
+const QList<QColor> Colours{QColor(200, 0, 0), QColor(0, 200, 0), QColor(0, 0, 200)};
+const QString Moravel = QStringLiteral(MORAVEL_EXECUTABLE);
+
+class ProgramLab : public ::testing::Test
+{
+protected:
+    ProgramLab()
+    {
+        const QDir pictures(QDir::homePath() + QStringLiteral("/Pictures/Moravel"));
+        QDir().mkpath(pictures.path());
+        for (const QColor &colour : Colours) {
+            QImage image(800, 600, QImage::Format_RGB32);
+            image.fill(colour);
+            EXPECT_TRUE(
+                image.save(pictures.filePath(colour.name().mid(1) + QStringLiteral(".png"))));
+        }
+        program.setProcessChannelMode(QProcess::ForwardedChannels);
+        // The lower right corner shows the desktop.
+        program.start(Moravel, {QStringLiteral("-qwindowgeometry"), QStringLiteral("600x500+0+0")});
+        EXPECT_TRUE(waitFor([this] { return windows().contains("Moravel"); }));
+    }
+
+    ~ProgramLab() override
+    {
+        program.kill();
+        program.waitForFinished();
+    }
+
+    static int run(const QStringList &command) { return runProgram(command).code; }
+
+    static QByteArray windows()
+    {
+        return runProgram({QStringLiteral("wmctrl"), QStringLiteral("-l")}).output;
+    }
+
+    static QColor desktop() { return screenshot().pixelColor(799, 599); }
+
+    /// Waits until the desktop is of a colour of ours other than @p last; returns it.
+    static QColor nextDesktop(const QColor &last)
+    {
+        EXPECT_TRUE(waitFor([&] { return Colours.contains(desktop()) && desktop() != last; }));
+        return desktop();
+    }
+
+    static int command(const char *name)
+    {
+        return run({Moravel, QStringLiteral("--command"), QLatin1String(name)});
+    }
+
+    QProcess program;
+};
+
+TEST_F(ProgramLab, takesCommandsAndEndsWithItsWindow)
+{
+    EXPECT_EQ(command("previous"), 1); // there is none
+    EXPECT_EQ(command("next"), 0);
+    const QColor first = nextDesktop({});
+    for (int attempt = 0; attempt < 20 && desktop() == first; ++attempt) {
+        EXPECT_EQ(command("next"), 0);
+        const QDeadlineTimer soon(1'000); // chance may choose the same picture again
+        waitFor([&] { return desktop() != first || soon.hasExpired(); });
+    }
+    const QColor second = nextDesktop(first);
+    EXPECT_EQ(command("previous"), 0);
+    EXPECT_EQ(nextDesktop(second), first);
+
+    QSettings file(QStringLiteral(MORAVEL_DESKTOP_FILE), QSettings::IniFormat);
+    QStringList actions;
+    for (const QString &group : file.childGroups()) {
+        if (!group.startsWith(QLatin1String("Desktop Action")))
+            continue;
+        QStringList words =
+            QProcess::splitCommand(file.value(group + QStringLiteral("/Exec")).toString());
+        ASSERT_EQ(words.takeFirst(), QStringLiteral("moravel"));
+        EXPECT_EQ(run(QStringList{Moravel} + words), 0) << qPrintable(group);
+        actions.append(words.last());
+    }
+    EXPECT_EQ(actions.size(), 3);
+
+    const QString window = QString::fromLatin1(windows().left(10));
+    EXPECT_EQ(run({QStringLiteral("xdotool"), QStringLiteral("windowminimize"), window}), 0);
+    EXPECT_EQ(run({Moravel}), 0); // a second start
+    EXPECT_EQ(
+        run({QStringLiteral("xdotool"), QStringLiteral("search"), QStringLiteral("--sync"),
+             QStringLiteral("--onlyvisible"), QStringLiteral("--name"), QStringLiteral("Moravel")}),
+        0);
+    EXPECT_EQ(windows().count('\n'), 1);
+    EXPECT_EQ(program.state(), QProcess::Running);
+
+    EXPECT_EQ(run({QStringLiteral("wmctrl"), QStringLiteral("-i"), QStringLiteral("-c"), window}),
+              0);
+    EXPECT_TRUE(waitFor([this] { return program.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(program.exitCode(), 0);
+    EXPECT_EQ(command("next"), 3);
+}
+
+} // namespace
