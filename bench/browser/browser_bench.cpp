@@ -159,7 +159,8 @@ int main(int argc, char **argv)
     bench::RealPlatform platform;
     QtThumbnails thumbnails;
     MoravelAppDelegate delegate(platform.lend(), std::nullopt,
-                                QStringLiteral("http://127.0.0.1:9/potd"), {}, &thumbnails);
+                                platform.shareSetup(QStringLiteral("http://127.0.0.1:9/potd")), {},
+                                &thumbnails);
     delegate.applicationWillFinishLaunching();
     delegate.window().show();
     if (app.arguments().value(1) == u"stay") {
