@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "server/app/Activation.h"
 #include "server/app/CommandLine.h"
 #include "server/app/ComputedSources.h"
+#include "server/app/NetworkSources.h"
 #include "server/core/ComputedPictures.h"
+#include "server/core/Lane.h"
 #include "server/core/Service.h"
 #include "server/http/HttpServer.h"
 #include "server/sources/folder/FolderSource.h"
@@ -22,6 +25,10 @@ namespace {
 /// Answers in progress at the end get this long; a slow client must not hold the machine's shutdown
 /// up.
 constexpr auto graceAtEnd = std::chrono::seconds(4);
+
+constexpr int textThreads = 4;
+constexpr int pictureThreads = 28; ///< Most of them wait for their turn to draw.
+constexpr std::size_t mostWaiting = 4096;
 
 int fail(const QString &text, int status)
 {
@@ -71,7 +78,23 @@ QString hostFor(const QString &address, int port)
         .arg(port);
 }
 
-int serve(HttpServer &server, RenderCache &cache, const sigset_t &signals)
+QString cacheFolder()
+{
+    const QString managed = qEnvironmentVariable("CACHE_DIRECTORY").section(u':', 0, 0);
+    return managed.isEmpty()
+        ? QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
+            + QLatin1StringView("/moravel-service")
+        : managed;
+}
+
+/// The socket that the service manager listens on for us, else one of our own.
+tl::expected<int, QString> listen(HttpServer &server, const Config &config)
+{
+    const int handed = takeActivatedSocket();
+    return handed >= 0 ? server.adopt(handed) : server.bind(config.bind, config.port);
+}
+
+int serve(HttpServer &server, RenderCache &cache, NetworkSources &network, const sigset_t &signals)
 {
     std::promise<bool> ended;
     std::thread serving([&] {
@@ -82,6 +105,7 @@ int serve(HttpServer &server, RenderCache &cache, const sigset_t &signals)
     sigwait(&signals, &received);
     cache.stop();
     server.stop();
+    network.stop();
     auto end = ended.get_future();
     if (end.wait_for(graceAtEnd) != std::future_status::ready)
         ::_exit(0);
@@ -100,20 +124,31 @@ int main(int argc, char **argv)
     const auto config = readCommandLine(QCoreApplication::arguments());
     if (!config)
         return fail(config.error().text, config.error().status);
-    RenderCache cache(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)
-                          + QLatin1StringView("/moravel-service"),
-                      config->cacheBytes);
+    const auto folder = std::make_shared<CacheFolder>(cacheFolder(), config->cacheBytes);
+    RenderCache cache(folder, {});
+    Metrics metrics;
+    const Service *answering = nullptr;
+    HttpServer server(
+        [&](const Request &request, const Answer &answer) { answering->handle(request, answer); });
+    NetworkSources network(*config, metrics);
     SourceList sources;
-    if (const auto added = addSources(sources, *config, cache); !added)
+    auto added = addSources(sources, *config, cache);
+    if (added)
+        added = network.addTo(sources, folder);
+    if (!added)
         return fail(QStringLiteral("moravel-service: %1\n").arg(added.error()), 2);
-    Service service(sources, {config->newsFile, {}, {}});
-    HttpServer server([&](const Request &request) { return service.handle(request); });
-    const auto port = server.bind(config->bind, config->port);
+    // After the server: what they still do when it ends is answered to it.
+    Lane texts(textThreads, mostWaiting);
+    Lane pictures(pictureThreads, mostWaiting);
+    Service service(sources,
+                    {config->newsFile, {}, {}, &texts, &pictures, &metrics, config->publicUrl});
+    answering = &service;
+    const auto port = listen(server, *config);
     if (!port)
         return fail(QStringLiteral("moravel-service: %1\n").arg(port.error()), 1);
     const QString host = hostFor(config->bind, *port);
     service.setBoundHost(host.toLatin1());
     std::printf("moravel-service: listening on http://%s/potd\n", qPrintable(host));
     std::fflush(stdout);
-    return serve(server, cache, signals);
+    return serve(server, cache, network, signals);
 }

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFile>
 
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -21,6 +22,10 @@ struct Request
     QByteArray body;
     QByteArray ifNoneMatch;
     QByteArray ifModifiedSince;
+    QByteArray range = {};
+    QByteArray ifRange = {};
+    bool forwarded = false; ///< It came through a proxy.
+    bool fromLoopback = false; ///< The peer is on this machine.
 };
 
 /// A picture or page on its way out: in memory, or an open file that is read while it is sent.
@@ -30,8 +35,13 @@ struct Content
     std::shared_ptr<QFile> file; ///< Open for reading; used instead of bytes when set.
     QByteArray type;
     QDateTime modified; ///< Invalid when unknown.
+    qint64 from = 0; ///< First byte that is sent.
+    qint64 length = -1; ///< Bytes that are sent; -1: all.
+    QByteArray elsewhere = {}; ///< The address to go to instead; the rest is empty then.
 
     qint64 size() const { return file ? file->size() : bytes.size(); }
+
+    qint64 sentSize() const { return length < 0 ? size() - from : length; }
 };
 
 struct Response
@@ -50,5 +60,8 @@ struct Response
         return {};
     }
 };
+
+/// Takes the answer to a request, once, on any thread.
+using Answer = std::function<void(Response)>;
 
 } // namespace moravel::server

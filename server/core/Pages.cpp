@@ -2,6 +2,7 @@
 #include "server/core/Pages.h"
 
 #include "server/core/PictureNames.h"
+#include "server/core/ReleaseNotes.h"
 #include "server/core/Text.h"
 #include "server/core/Version.h"
 
@@ -55,6 +56,41 @@ QString pageLink(const PictureSource &source, QDate date, const QString &text)
         .arg(pictureName(source.shortName(), date, pageSuffix), text);
 }
 
+/// Headings, paragraphs and lists, which is all that our own notes have.
+QString htmlOf(const QString &markdown)
+{
+    QString html;
+    QString open;
+    const auto close = [&] {
+        if (!open.isEmpty())
+            html += QStringLiteral("</%1>\n").arg(open == u"li" ? QStringLiteral("li></ul") : open);
+        open.clear();
+    };
+    const QStringList lines = markdown.split(u'\n');
+    for (const QString &line : lines) {
+        const QString text = escaped(line.section(u' ', 1).trimmed());
+        if (line.startsWith(u'#')) {
+            close();
+            html += QStringLiteral("<h%1>%2</h%1>\n").arg(line.indexOf(u' ')).arg(text);
+        } else if (line.startsWith(QLatin1StringView("- "))) {
+            if (open != u"li")
+                close();
+            html += (open == u"li" ? QStringLiteral("</li>\n<li>") : QStringLiteral("<ul>\n<li>"))
+                + text;
+            open = QStringLiteral("li");
+        } else if (line.trimmed().isEmpty()) {
+            close();
+        } else {
+            html += open.isEmpty() ? QStringLiteral("<p>") : QStringLiteral(" ");
+            html += escaped(line.trimmed());
+            if (open.isEmpty())
+                open = QStringLiteral("p");
+        }
+    }
+    close();
+    return html;
+}
+
 } // namespace
 
 QByteArray homePage(const SourceList &sources, QDate today)
@@ -83,31 +119,26 @@ QByteArray dayPage(const PictureSource &source, QDate date, const DayPicture &da
         date < latest ? pageLink(source, date.addDays(1), QStringLiteral("Day after")) : QString();
     const QString name = source.shortName();
     const QString body =
-        QStringLiteral("<a href=\"/potd/pictures/%1\"><img src=\"/potd/pictures/%2\" "
-                       "alt=\"%3\"></a>\n<h1>%3</h1>\n<p class=\"soft\">%4 · %5</p>\n<p>%6</p>\n<p "
-                       "class=\"soft\">%7</p>\n<nav>%8<a href=\"/potd/\">All sources</a>%9</nav>\n")
+        QStringLiteral(
+            "<a href=\"/potd/pictures/%1\"><img src=\"/potd/pictures/%2\" "
+            "alt=\"%3\"></a>\n<h1>%3</h1>\n<p class=\"soft\">%4 · %5</p>\n<p>%6</p>\n<p "
+            "class=\"soft\">%7%10</p>\n<nav>%8<a href=\"/potd/\">All sources</a>%9</nav>\n")
             .arg(pictureName(name, date, day.fullSuffix), pictureName(name, date, normalSuffix),
                  escaped(day.caption), escaped(source.longName()), longDate(date),
                  escaped(day.info), escaped(day.credit),
-                 pageLink(source, date.addDays(-1), QStringLiteral("Day before")), after);
+                 pageLink(source, date.addDays(-1), QStringLiteral("Day before")), after,
+                 day.elsewhere.page.isEmpty() ? QString()
+                                              : QStringLiteral(" <a href=\"%1\">Original page</a>")
+                                                    .arg(escaped(day.elsewhere.page)));
     return page(QStringLiteral("%1 – %2").arg(day.caption, source.longName()), body);
 }
 
 QByteArray releasePage()
 {
-    return page(QStringLiteral("Moravel release notes"),
-                QStringLiteral(R"(<h1>Moravel release notes</h1>
-<h2>0.1.0</h2>
-<p>The first release.</p>
-<ul>
-<li>A picture of the day from each of your sources, side by side, for today or any earlier day.</li>
-<li>Set a picture as the desktop with a double-click, or let the desktop change by itself.</li>
-<li>A browser for all pictures that you have kept, with search in captions.</li>
-<li>A service of its own that computes fractals, landscapes, the moon and the planets of each day, and shows
-the pictures of folders of yours.</li>
-</ul>
-<nav><a href="/potd/">Moravel picture service</a></nav>
-)"));
+    return page(
+        QStringLiteral("Moravel release notes"),
+        htmlOf(releaseNotes())
+            + QStringLiteral("<nav><a href=\"/potd/\">Moravel picture service</a></nav>\n"));
 }
 
 } // namespace moravel::server

@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
 #include <tl/expected.hpp>
 
 namespace moravel::server {
@@ -31,6 +32,17 @@ struct Unavailable
     int retryAfter = 0; ///< Seconds after which asking again makes sense; 0 when unknown.
 };
 
+class Lane;
+
+/// Addresses elsewhere that clients may use as they are; empty where this service has one itself.
+struct LinksElsewhere
+{
+    QString page;
+    QString thumb;
+    QString normal;
+    QString full;
+};
+
 /// What is known of a day's picture without making it. Texts are plain, one line each.
 struct DayPicture
 {
@@ -42,6 +54,7 @@ struct DayPicture
         0; ///< Size of the full-size file in millions of bytes, real or estimated.
     QString fullSuffix; ///< End of the full-size file's name, for example "3840x2160.jpg".
     bool isFinal = true; ///< The bytes of this day never change.
+    LinksElsewhere elsewhere = {};
 };
 
 enum class PictureKind { Thumb, Normal, Full };
@@ -69,11 +82,24 @@ public:
     virtual QString shortName() const = 0; ///< Identifier in requests: ASCII letters, at most 32.
     virtual QString longName() const = 0; ///< Display name.
 
-    /// Tells of the picture of @p date; must be quick.
+    using Told = std::function<void(const tl::expected<DayPicture, Unavailable> &)>;
+
+    /// Tells of the picture of @p date. Sources that may have to wait override ask().
     virtual tl::expected<DayPicture, Unavailable> describe(QDate date) const = 0;
 
-    /// Gives the picture itself; may take seconds.
+    /// Calls @p told with what describe() says, at once or later, on any thread. With @p refresh
+    /// what is known already is asked for anew, where that makes sense.
+    virtual void ask(QDate date, bool refresh, const Told &told) const
+    {
+        static_cast<void>(refresh);
+        told(describe(date));
+    }
+
+    /// Gives the picture itself, or where it lies; may take seconds.
     virtual tl::expected<Content, Unavailable> picture(QDate date, PictureKind kind) const = 0;
+
+    /// Where its pictures are made, when not together with those of the others.
+    virtual Lane *lane() const { return nullptr; }
 };
 
 } // namespace moravel::server

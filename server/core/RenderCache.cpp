@@ -28,13 +28,13 @@ QByteArray renderSafely(const QString &name, const RenderCache::Render &render)
 
 } // namespace
 
-RenderCache::RenderCache(const QString &folder, qint64 maxBytes, Limits limits)
-    : m_folder(folder, maxBytes), m_limits(limits)
+RenderCache::RenderCache(std::shared_ptr<CacheFolder> folder, Limits limits)
+    : m_folder(std::move(folder)), m_limits(limits)
 { }
 
 tl::expected<Content, Unavailable> RenderCache::picture(const QString &name, const Render &render)
 {
-    if (auto stored = m_folder.open(name))
+    if (auto stored = m_folder->open(name))
         return *std::move(stored);
     Lock lock(m_mutex);
     if (const auto flight = m_flights.value(name))
@@ -68,10 +68,10 @@ tl::expected<Content, Unavailable> RenderCache::lead(const QString &name, const 
         ++m_rendering;
         lock.unlock();
         // It may have been stored between the first look and the start of this flight.
-        if (!m_folder.open(name)) {
+        if (!m_folder->open(name)) {
             flight->bytes = renderSafely(name, render);
             if (!flight->bytes.isEmpty())
-                m_folder.store(name, flight->bytes);
+                m_folder->store(name, flight->bytes);
         }
         lock.lock();
         --m_rendering;
@@ -101,7 +101,7 @@ bool RenderCache::waitFor(const std::function<bool()> &ready, Lock &lock)
 
 tl::expected<Content, Unavailable> RenderCache::answer(const QString &name, const QByteArray &bytes)
 {
-    if (auto stored = m_folder.open(name))
+    if (auto stored = m_folder->open(name))
         return *std::move(stored);
     if (bytes.isEmpty())
         return tl::unexpected(

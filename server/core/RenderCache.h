@@ -27,7 +27,12 @@ public:
             24; ///< Below the number of transport threads, so that lists are still answered.
     };
 
-    RenderCache(const QString &folder, qint64 maxBytes, Limits limits);
+    /// @p folder may be shared with others.
+    RenderCache(std::shared_ptr<CacheFolder> folder, Limits limits);
+
+    RenderCache(const QString &folder, qint64 maxBytes, Limits limits)
+        : RenderCache(std::make_shared<CacheFolder>(folder, maxBytes), limits)
+    { }
 
     RenderCache(const QString &folder, qint64 maxBytes)
         : RenderCache(folder, maxBytes, Limits()) { }
@@ -53,7 +58,7 @@ private:
     bool waitFor(const std::function<bool()> &ready, Lock &lock);
     tl::expected<Content, Unavailable> answer(const QString &name, const QByteArray &bytes);
 
-    CacheFolder m_folder;
+    const std::shared_ptr<CacheFolder> m_folder;
     const Limits m_limits;
     std::mutex m_mutex;
     std::condition_variable m_changed;

@@ -3,6 +3,7 @@
 
 #include <QCryptographicHash>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -37,6 +38,37 @@ bool clientHasIt(const Request &request, const Response &response)
         && request.ifModifiedSince == response.header("Last-Modified");
 }
 
+/// One range of bytes is honoured; several would multiply what is sent, and get the whole.
+void cutToRange(Response &response, const QByteArray &range)
+{
+    static const QRegularExpression form(QStringLiteral("\\Abytes=(\\d{0,15})-(\\d{0,15})\\z"));
+    const auto match = form.match(QString::fromLatin1(range));
+    const QString first = match.captured(1);
+    const QString last = match.captured(2);
+    if (!match.hasMatch() || (first.isEmpty() && last.isEmpty()))
+        return;
+    const qint64 size = response.content.size();
+    const qint64 from =
+        first.isEmpty() ? std::max<qint64>(size - last.toLongLong(), 0) : first.toLongLong();
+    const qint64 to =
+        first.isEmpty() || last.isEmpty() ? size - 1 : std::min(last.toLongLong(), size - 1);
+    if (!first.isEmpty() && !last.isEmpty() && last.toLongLong() < from)
+        return;
+    const QByteArray total = '/' + QByteArray::number(size);
+    if (from >= size) {
+        response.status = 416;
+        response.content = {};
+        response.headers.emplace_back("Content-Range", "bytes *" + total);
+        return;
+    }
+    response.status = 206;
+    response.content.from = from;
+    response.content.length = to - from + 1;
+    response.headers.emplace_back("Content-Range",
+                                  "bytes " + QByteArray::number(from) + '-' + QByteArray::number(to)
+                                      + total);
+}
+
 int statusOf(Reason reason)
 {
     switch (reason) {
@@ -51,6 +83,11 @@ int statusOf(Reason reason)
 
 } // namespace
 
+Response plainTextResponse(const QByteArray &utf8)
+{
+    return {200, {utf8, nullptr, "text/plain; charset=utf-8", {}}, {{"Cache-Control", "no-store"}}};
+}
+
 Response textResponse(int status, const QString &text)
 {
     return {status,
@@ -64,12 +101,16 @@ Response pageResponse(const QByteArray &html)
             {html, nullptr, "text/html; charset=utf-8", {}},
             {{"Cache-Control", "no-cache"},
              {"Content-Security-Policy",
-              "default-src 'none'; img-src 'self'; style-src 'unsafe-inline'; base-uri 'none'"}}};
+              "default-src 'none'; img-src 'self' http: https:; style-src 'unsafe-inline'; "
+              "base-uri 'none'"}}};
 }
 
 Response pictureResponse(const Request &request, Content content, bool isFinal)
 {
     Response response;
+    if (!content.elsewhere.isEmpty())
+        return {
+            302, {}, {{"Location", content.elsewhere}, {"Cache-Control", "public, max-age=300"}}};
     response.headers = {
         {"ETag", entityTag(content)},
         {"Cache-Control", isFinal ? "public, max-age=31536000, immutable" : "public, max-age=300"}};
@@ -78,10 +119,16 @@ Response pictureResponse(const Request &request, Content content, bool isFinal)
         response.headers.emplace_back(
             "Last-Modified", QLocale::c().toString(content.modified.toUTC(), form).toLatin1());
     }
-    if (clientHasIt(request, response))
+    if (clientHasIt(request, response)) {
         response.status = 304;
-    else
-        response.content = std::move(content);
+        return response;
+    }
+    response.headers.emplace_back("Accept-Ranges", "bytes");
+    response.content = std::move(content);
+    const bool sameAsThen = request.ifRange.isEmpty() || request.ifRange == response.header("ETag")
+        || request.ifRange == response.header("Last-Modified");
+    if (request.method == "GET" && sameAsThen)
+        cutToRange(response, request.range);
     return response;
 }
 

@@ -9,10 +9,13 @@ namespace moravel::server {
 /// UTF-8 text that no cache may keep.
 Response textResponse(int status, const QString &text);
 
-/// A page that may neither run scripts nor load anything from elsewhere.
+Response plainTextResponse(const QByteArray &utf8);
+
+/// A page that may neither run scripts nor load anything but pictures from elsewhere.
 Response pageResponse(const QByteArray &html);
 
-/// A picture with its validators, or 304 when the request shows that the client has it.
+/// A picture with its validators, or the one range of bytes that the request wants of it, or 304
+/// when the request shows that the client has it, or the way to where it lies.
 Response pictureResponse(const Request &request, Content content, bool isFinal);
 
 /// What is said of a page or picture that cannot be given.

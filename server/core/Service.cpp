@@ -5,6 +5,7 @@
 #include "server/core/CacheFolder.h"
 #include "server/core/Days.h"
 #include "server/core/Form.h"
+#include "server/core/Lane.h"
 #include "server/core/Log.h"
 #include "server/core/Pages.h"
 #include "server/core/PictureNames.h"
@@ -53,92 +54,172 @@ std::optional<Response> methodError(const Request &request, const QString &path)
 
 /// The answer to one option for a day that has a picture.
 std::optional<QString> optionAnswer(const QString &option, const DayLinks &links,
-                                    const DayPicture &day)
+                                    const DayPicture &day, const QString &siteName)
 {
     if (option == u"all")
-        return allAnswer(links, day);
+        return allAnswer(links, day, siteName);
     if (option == u"parent")
-        return links.page() + u'\n';
+        return links.page(day) + u'\n';
     if (option == u"thumb")
-        return links.picture(thumbSuffix) + u'\n';
+        return links.thumb(day) + u'\n';
     if (option == u"captionPlusText")
-        return captionAnswer(day);
+        return captionAnswer(links, day, siteName);
     return std::nullopt;
+}
+
+Response busyResponse()
+{
+    return unavailableResponse(
+        {Reason::Busy, QStringLiteral("The service has too much to do just now."), 5});
+}
+
+/// Runs @p work on @p lane, or at once without one; where the lane is full, says so.
+void runOn(Lane *lane, const Answer &answer, std::function<void()> work)
+{
+    if (!lane)
+        return work();
+    if (!lane->post(std::move(work)))
+        answer(busyResponse());
+}
+
+/// All that makes one answer differ from another.
+QByteArray keyOf(const Request &request)
+{
+    return request.method + ' ' + request.target + '\n' + request.body + '\n' + request.host;
+}
+
+qint64 steadyMs()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
 } // namespace
 
 Service::Service(const SourceList &sources, Setup setup)
-    : m_sources(sources), m_setup(std::move(setup))
+    : m_sources(sources), m_setup(std::move(setup)), m_kept(qsizetype(8) << 20)
 { }
 
-Response Service::handle(const Request &request) const
+void Service::handle(const Request &request, const Answer &answer) const
+{
+    if (answerKept(request, answer))
+        return;
+    runOn(m_setup.texts, answer, [this, request, answer] {
+        compose(request, [this, answer](Response response) {
+            if (m_setup.metrics)
+                m_setup.metrics->add("requests_total{status=\""
+                                     + QByteArray::number(response.status) + "\"}");
+            answer(std::move(response));
+        });
+    });
+}
+
+bool Service::answerKept(const Request &request, const Answer &answer) const
+{
+    if (!request.target.startsWith("/potd/defs/moravel.irev"))
+        return false;
+    const auto kept = m_kept.find(keyOf(request));
+    if (!kept || kept->untilMs < steadyMs() || kept->generation != m_generation)
+        return false;
+    ++m_keptAnswers;
+    answer(plainTextResponse(kept->text));
+    return true;
+}
+
+void Service::compose(const Request &request, const Answer &answer) const
 {
     const qsizetype mark = request.target.indexOf('?');
     const auto path = percentDecoded(mark < 0 ? request.target : request.target.left(mark));
     if (!path)
-        return badRequest("The address is malformed.");
+        return answer(badRequest("The address is malformed."));
     const QByteArray query = mark < 0 ? QByteArray() : request.target.mid(mark + 1);
     try {
-        return route(request, *path, query);
+        return route(request, *path, query, answer);
     } catch (const std::exception &e) {
         qCInfo(serverLog) << "a request failed:" << e.what();
     } catch (...) {
         qCInfo(serverLog) << "a request failed";
     }
-    return textResponse(500, QStringLiteral("The service failed to answer this.\n"));
+    answer(textResponse(500, QStringLiteral("The service failed to answer this.\n")));
 }
 
-Response Service::route(const Request &request, const QString &path, const QByteArray &query) const
+void Service::route(const Request &request, const QString &path, const QByteArray &query,
+                    const Answer &answer) const
 {
     const bool picture = path.startsWith(picturesPath);
     const bool page = path.startsWith(pagesPath);
     const bool home = path == u"/" || path == u"/potd" || path == u"/potd/";
-    const bool known = picture || page || home || path == dayPath || path == u"/potd/release.html"
-        || path == u"/potd/defs/getSources.irev" || path == u"/potd/defs/getNews.irev";
+    const bool operators = path == u"/health" || path == u"/metrics";
+    const bool known = picture || page || home || operators || path == dayPath
+        || path == u"/potd/release.html" || path == u"/potd/defs/getSources.irev"
+        || path == u"/potd/defs/getNews.irev";
     if (!known)
-        return notFound();
+        return answer(notFound());
     if (auto error = methodError(request, path))
-        return *std::move(error);
+        return answer(*std::move(error));
     if (picture)
-        return answerPicture(request, path.mid(picturesPath.size()));
+        return answerPicture(request, path.mid(picturesPath.size()), answer);
     if (page)
-        return answerPage(path.mid(pagesPath.size()));
-    if (home)
-        return pageResponse(homePage(m_sources, now().date()));
+        return answerPage(path.mid(pagesPath.size()), answer);
     if (path == dayPath)
-        return answerDay(request, request.method == "POST" ? request.body : query);
+        return answerDay(request, request.method == "POST" ? request.body : query, answer);
+    if (home)
+        return answer(pageResponse(homePage(m_sources, now().date())));
+    if (operators)
+        return answer(answerOperator(request, path));
     if (path.endsWith(u".html"))
-        return pageResponse(releasePage());
+        return answer(pageResponse(releasePage()));
     if (path.endsWith(QLatin1StringView("getNews.irev")))
-        return answerNews();
-    return textResponse(200, sourcesAnswer(m_sources));
+        return answer(answerNews());
+    answer(textResponse(200, sourcesAnswer(m_sources)));
 }
 
-Response Service::answerDay(const Request &request, const QByteArray &form) const
+/// Only for people on this machine: a request that a proxy passed on comes from somewhere else.
+Response Service::answerOperator(const Request &request, const QString &path) const
+{
+    if (!request.fromLoopback || request.forwarded)
+        return textResponse(403, QStringLiteral("This is for this machine only.\n"));
+    if (path == u"/health")
+        return textResponse(200, QStringLiteral("ok\n"));
+    const QByteArray kept = "# TYPE moravel_kept_answers_total counter\nmoravel_kept_answers_total "
+        + QByteArray::number(m_keptAnswers.load()) + '\n';
+    return plainTextResponse(m_setup.metrics ? kept + m_setup.metrics->text() : kept);
+}
+
+void Service::answerDay(const Request &request, const QByteArray &form, const Answer &answer) const
 {
     const auto fields = parseForm(form);
     if (!fields)
-        return badRequest("The request's fields are malformed.");
+        return answer(badRequest("The request's fields are malformed."));
     for (const char *name : {"option", "source", "date"}) {
         if (fields->value(QString::fromLatin1(name)).isEmpty())
-            return textResponse(
-                400, QStringLiteral("The field %1 is missing.\n").arg(QLatin1StringView(name)));
+            return answer(textResponse(
+                400, QStringLiteral("The field %1 is missing.\n").arg(QLatin1StringView(name))));
     }
     const QString option = fields->value(QStringLiteral("option"));
     const auto date = parseDay(fields->value(QStringLiteral("date")));
     if (!date)
-        return badRequest("The date is not of the form month/day/year, as in 7/4/2011.");
+        return answer(badRequest("The date is not of the form month/day/year, as in 7/4/2011."));
     const QString name = fields->value(QStringLiteral("source"));
     const DayLinks links(baseUrl(request), name, *date);
-    if (!optionAnswer(option, links, {}))
-        return badRequest("The option is unknown.");
-    const auto day = describe(m_sources.find(name), *date);
-    if (day)
-        return textResponse(200, *optionAnswer(option, links, *day));
-    // The other options' answers are taken for links and captions, where only emptiness means
-    // "none".
-    return textResponse(200, option == u"all" ? errorAnswer(day.error()) : QString());
+    if (!optionAnswer(option, links, {}, {}))
+        return answer(badRequest("The option is unknown."));
+    const bool refresh = fields->value(QStringLiteral("refresh")) == u"true";
+    const PictureSource *source = m_sources.find(name);
+    describe(source, *date, refresh, [=, this](const auto &day) {
+        if (refresh)
+            ++m_generation;
+        // The other options' answers are taken for links and captions, where only emptiness means
+        // "none".
+        if (!day)
+            return answer(
+                textResponse(200, option == u"all" ? errorAnswer(day.error()) : QString()));
+        const QByteArray text = optionAnswer(option, links, *day, source->longName())->toUtf8();
+        constexpr qint64 keptForMs = 60'000;
+        if (day->isFinal && !refresh)
+            m_kept.put(keyOf(request), {text, steadyMs() + keptForMs, m_generation}, text.size());
+        answer(plainTextResponse(text));
+    });
 }
 
 Response Service::answerNews() const
@@ -152,52 +233,60 @@ Response Service::answerNews() const
     return textResponse(200, QString::fromUtf8(file->read(longest)).trimmed());
 }
 
-Response Service::answerPicture(const Request &request, const QString &name) const
+void Service::answerPicture(const Request &request, const QString &name, const Answer &answer) const
 {
     const auto parts = parsePictureName(name);
     const PictureSource *source = parts ? m_sources.findSlug(parts->slug) : nullptr;
     if (!source)
-        return notFound();
-    const auto day = describe(source, parts->date);
-    if (!day)
-        return unavailableResponse(day.error());
-    const auto kind = kindOf(parts->suffix, *day);
-    if (!kind)
-        return notFound();
-    auto content = source->picture(parts->date, *kind);
-    if (!content)
-        return unavailableResponse(content.error());
-    return pictureResponse(request, *std::move(content), day->isFinal);
+        return answer(notFound());
+    const QDate date = parts->date;
+    describe(source, date, false, [=, this, suffix = parts->suffix](const auto &day) {
+        if (!day)
+            return answer(unavailableResponse(day.error()));
+        const auto kind = kindOf(suffix, *day);
+        if (!kind)
+            return answer(notFound());
+        Lane *own = source->lane();
+        runOn(own ? own : m_setup.pictures, answer, [=, isFinal = day->isFinal] {
+            auto content = source->picture(date, *kind);
+            answer(content ? pictureResponse(request, *std::move(content), isFinal)
+                           : unavailableResponse(content.error()));
+        });
+    });
 }
 
-Response Service::answerPage(const QString &name) const
+void Service::answerPage(const QString &name, const Answer &answer) const
 {
     const auto parts = parsePictureName(name);
     const PictureSource *source = parts ? m_sources.findSlug(parts->slug) : nullptr;
     if (!source || parts->suffix != pageSuffix)
-        return notFound();
-    const auto day = describe(source, parts->date);
-    return day ? pageResponse(dayPage(*source, parts->date, *day, latestDay(now())))
-               : unavailableResponse(day.error());
+        return answer(notFound());
+    const QDate date = parts->date;
+    describe(source, date, false, [=, this](const auto &day) {
+        answer(day ? pageResponse(dayPage(*source, date, *day, latestDay(now())))
+                   : unavailableResponse(day.error()));
+    });
 }
 
-tl::expected<DayPicture, Unavailable> Service::describe(const PictureSource *source,
-                                                        QDate date) const
+void Service::describe(const PictureSource *source, QDate date, bool refresh,
+                       const PictureSource::Told &told) const
 {
+    const auto refuse = [&](Reason reason, const char *why) {
+        told(tl::unexpected(Unavailable{reason, QString::fromLatin1(why)}));
+    };
     if (!source)
-        return tl::unexpected(
-            Unavailable{Reason::NoSuchSource, QStringLiteral("There is no source of this name.")});
+        return refuse(Reason::NoSuchSource, "There is no source of this name.");
     if (date < earliestDay())
-        return tl::unexpected(
-            Unavailable{Reason::OutOfRange, QStringLiteral("There are no pictures before 1900.")});
+        return refuse(Reason::OutOfRange, "There are no pictures before 1900.");
     if (date > latestDay(now()))
-        return tl::unexpected(
-            Unavailable{Reason::OutOfRange, QStringLiteral("That day has not come yet.")});
-    return source->describe(date);
+        return refuse(Reason::OutOfRange, "That day has not come yet.");
+    source->ask(date, refresh, told);
 }
 
 QString Service::baseUrl(const Request &request) const
 {
+    if (!m_setup.publicUrl.isEmpty())
+        return m_setup.publicUrl;
     const QByteArray host = isPlainHost(request.host) ? request.host : m_setup.boundHost;
     return QLatin1StringView("http://") + QString::fromLatin1(host) + QLatin1StringView("/potd");
 }

@@ -1,34 +1,35 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "server/core/Messages.h"
+#include "server/http/ConnectionLimits.h"
+#include "server/http/EventLoop.h"
 
 #include <QString>
 
-#include <functional>
+#include <atomic>
 #include <memory>
 #include <tl/expected.hpp>
 
 namespace moravel::server {
 
-struct ConnectionLimits;
-class Transport;
-
-/// Carries requests from TCP connections to a handler and its answers back, on a pool of threads.
+/// Carries requests from TCP connections to a handler and its answers back. A few threads serve all
+/// connections, so that silent or slow clients cost memory only.
 class HttpServer
 {
 public:
-    /// Called from several threads at once; must not throw.
-    using Handler = std::function<Response(const Request &)>;
-
-    explicit HttpServer(Handler handler);
-    HttpServer(Handler handler, const ConnectionLimits &limits);
+    explicit HttpServer(AsyncHandler handler, const ConnectionLimits &limits = {});
     ~HttpServer();
+    HttpServer(const HttpServer &) = delete;
+    HttpServer &operator=(const HttpServer &) = delete;
 
     /// Takes the port (0: any free one) at a numeric address; the port it got, or why not.
     tl::expected<int, QString> bind(const QString &address, int port);
 
-    /// Answers until stop(); false when the socket fails. To be called once, after bind().
+    /// Takes over a socket that listens already; its port, or why it cannot be used.
+    tl::expected<int, QString> adopt(int socket);
+
+    /// Answers until stop(); false when the socket fails. To be called once, after bind() or
+    /// adopt().
     bool run();
 
     /// Ends run(): takes no more connections, lets the answers in progress finish. From any thread,
@@ -36,7 +37,9 @@ public:
     void stop();
 
 private:
-    std::unique_ptr<Transport> m_transport;
+    std::vector<std::unique_ptr<EventLoop>> m_loops;
+    std::size_t m_nextLoop = 0;
+    int m_socket = -1;
 };
 
 } // namespace moravel::server

@@ -12,7 +12,12 @@ TEST(Config, ReadsAllKeysAndCountsPathsFromItsFolder)
     const testing::TempHome home;
     const auto config = readConfig(home.write(QStringLiteral("c.json"), R"({
         "bind": "::1", "port": 0, "cacheBytes": 5000000, "newsFile": "news.txt",
-        "computedSources": { "Moon": false },
+        "computedSources": { "Moon": false }, // not "tonight"
+        "networkSources": { "Wiki": true, "Apod": { "on": false, "key": "a//b" } },
+        "feedSources": [ { "shortName": "Blog", "longName": "A blog", "address": "https://a.org/f",
+                           "proxy": true } ],
+        "store": "postgresql://a@b/c", "publicUrl": "https://a.org/potd",
+        "proxySizes": { "thumb": "320x180" },
         "folderSources": [ { "shortName": "Family", "longName": "Our family", "path": "pics",
                              "credit": "We", "licence": "CC0" } ] })"));
     ASSERT_TRUE(config) << config.error().toStdString();
@@ -23,7 +28,15 @@ TEST(Config, ReadsAllKeysAndCountsPathsFromItsFolder)
     EXPECT_EQ(config->computedSources.value(QStringLiteral("Moon"), true), false);
     ASSERT_EQ(config->folderSources.size(), 1);
     EXPECT_EQ(config->folderSources[0].path, home.path(QStringLiteral("pics")));
+    ASSERT_EQ(config->networkSources.size(), 2);
+    EXPECT_EQ(config->networkSources[0].key, QStringLiteral("a//b")); // In the order of names.
+    EXPECT_FALSE(config->networkSources[0].isOn);
+    EXPECT_TRUE(config->networkSources[1].isOn);
+    EXPECT_TRUE(config->feedSources.at(0).proxy);
+    EXPECT_EQ(config->store, QStringLiteral("postgresql://a@b/c"));
+    EXPECT_EQ(config->proxySizes.value(QStringLiteral("thumb")), QSize(320, 180));
     EXPECT_TRUE(readConfig(home.write(QStringLiteral("c.json"), "{}")));
+    EXPECT_TRUE(readConfig(QStringLiteral(MORAVEL_SERVICE_PACKAGED_CONFIG)));
 }
 
 TEST(Config, ErrorsNameTheFileAndTheKey)
@@ -48,6 +61,12 @@ TEST(Config, ErrorsNameTheFileAndTheKey)
         {R"({"newsFile": []})", "\"newsFile\""},
         {R"({"computedSources": []})", "\"computedSources\""},
         {R"({"computedSources": {"Moon": 1}})", "\"computedSources\""},
+        {R"({"networkSources": {"Wiki": 1}})", "\"networkSources\""},
+        {R"({"networkSources": {"Wiki": {"adress": ""}}})", "unknown key \"adress\""},
+        {R"({"feedSources": [{"shortName": "A", "longName": "A", "address": "file:///x"}]})",
+         "\"address\""},
+        {R"({"publicUrl": "https://a.org/"})", "\"publicUrl\""},
+        {R"({"proxySizes": {"thumb": "1x1"}})", "\"thumb\""},
         {R"({"folderSources": {}})", "\"folderSources\""},
         {R"({"folderSources": [1]})", "\"folderSources\""},
         {R"({"folderSources": [{"shortName": "A", "longName": "A"}]})", "\"path\""},

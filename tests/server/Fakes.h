@@ -79,9 +79,16 @@ struct FakeService
             std::make_unique<ComputedPictures>(std::make_unique<FakeComputed>(renders), cache));
     }
 
+    Response handle(const Request &request) const
+    {
+        Response response;
+        service.handle(request, [&](Response answer) { response = std::move(answer); });
+        return response;
+    }
+
     Response get(const QByteArray &target, const QByteArray &host = "h:1") const
     {
-        return service.handle({"GET", target, host, {}, {}, {}});
+        return handle({"GET", target, host, {}, {}, {}});
     }
 
     QByteArray day(const QByteArray &form) const

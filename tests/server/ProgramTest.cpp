@@ -6,10 +6,12 @@
 #include <QImage>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTcpServer>
 #include <QTcpSocket>
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace moravel::server {
 
@@ -72,6 +74,23 @@ TEST(Program, ServesAFolderAndEndsCleanlyOnEachSignal)
         EXPECT_EQ(program.exitCode(), 0);
         EXPECT_EQ(program.readAllStandardError().toStdString(), "");
     }
+}
+
+TEST(Program, TakesTheSocketOfTheServiceManager)
+{
+    QTcpServer listening;
+    ASSERT_TRUE(listening.listen(QHostAddress::LocalHost));
+    const int handed = ::dup(static_cast<int>(listening.socketDescriptor())); // Inherited.
+    QProcess program;
+    program.start(
+        QStringLiteral("bash"),
+        {QStringLiteral("-c"),
+         QStringLiteral("export LISTEN_PID=$$ LISTEN_FDS=1; exec \"$0\" 3<&%1").arg(handed),
+         QStringLiteral(MORAVEL_SERVICE_PROGRAM)});
+    EXPECT_TRUE(fetch(listening.serverPort(), "/health").endsWith("\r\n\r\nok\n"));
+    program.terminate();
+    EXPECT_TRUE(program.waitForFinished(patienceMs));
+    ::close(handed);
 }
 
 TEST(Program, SaysWhyItCannotRun)

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "server/sources/folder/FolderSource.h"
 
+#include "server/core/Fitting.h"
 #include "server/core/Jpeg.h"
 
 #include <QFileInfo>
-#include <QImageReader>
-#include <QPainter>
 
 namespace moravel::server {
 
@@ -35,47 +34,6 @@ QString revisionOf(const QString &name, const QFile &file)
         .arg(name)
         .arg(file.size())
         .arg(file.fileTime(QFileDevice::FileModificationTime).toMSecsSinceEpoch());
-}
-
-/// Looks at the content, whatever the name says: other formats that Qt reads, such as SVG, load
-/// more files.
-bool isRaster(QFile &file)
-{
-    static const QList<QByteArray> formats{"jpeg", "png", "gif", "bmp", "webp", "tiff"};
-    return formats.contains(QImageReader::imageFormat(&file));
-}
-
-QSize shownSize(QFile &file)
-{
-    if (!isRaster(file))
-        return {};
-    QImageReader reader(&file);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed()
-                                                                             : size;
-}
-
-/// Decodes the picture into at most @p box, never enlarging it.
-QImage fitted(QFile &file, QSize box)
-{
-    if (!isRaster(file))
-        return {};
-    QImageReader reader(&file);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (reader.transformation() & QImageIOHandler::TransformationRotate90)
-        box.transpose();
-    if (size.width() > box.width() || size.height() > box.height())
-        reader.setScaledSize(size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    QImage image = reader.read();
-    if (!image.hasAlphaChannel())
-        return image;
-    // JPEG has no transparency.
-    QImage opaque(image.size(), QImage::Format_RGB32);
-    opaque.fill(Qt::white);
-    QPainter(&opaque).drawImage(0, 0, image);
-    return opaque;
 }
 
 } // namespace
@@ -155,7 +113,7 @@ tl::expected<Content, Unavailable> FolderSource::picture(QDate date, PictureKind
         return Content{{}, file, typeOf(*name), modified};
     }
     return m_cache.picture(cacheName(shortName(), date, kind, revisionOf(*name, *file)),
-                           [&] { return encodedJpeg(fitted(*file, sizeOf(kind)), kind); });
+                           [&] { return encodedJpeg(fittedPicture(*file, sizeOf(kind)), kind); });
 }
 
 } // namespace moravel::server

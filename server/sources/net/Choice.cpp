@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#include "server/sources/net/Choice.h"
+
+#include <QCryptographicHash>
+
+namespace moravel::server {
+
+std::optional<Choice> firstPicture(Asking &asking, const std::vector<QUrl> &urls)
+{
+    for (const QUrl &url : urls) {
+        if (const auto facts = asking.probe(url))
+            return Choice{url, *facts};
+    }
+    return std::nullopt;
+}
+
+int chosenNumber(const char *source, QDate date, int attempt, int most)
+{
+    const QByteArray text =
+        QByteArray(source) + date.toString(Qt::ISODate).toLatin1() + QByteArray::number(attempt);
+    const QByteArray hash = QCryptographicHash::hash(text, QCryptographicHash::Sha256);
+    return static_cast<int>(hash.left(7).toHex().toULongLong(nullptr, 16)
+                            % static_cast<unsigned>(most))
+        + 1;
+}
+
+QUrl below(const QUrl &base, const QString &pathAndQuery)
+{
+    QString root = base.toString(QUrl::RemovePath | QUrl::RemoveQuery | QUrl::RemoveFragment);
+    return QUrl(root + pathAndQuery);
+}
+
+bool mayComeYet(QDate date, const QDateTime &now)
+{
+    constexpr int hoursOfGrace = 36; // The day ends at UTC-12, and some publish late.
+    return now < QDateTime(date, QTime(0, 0), Qt::UTC).addSecs(hoursOfGrace * 3600);
+}
+
+} // namespace moravel::server
