@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole application offscreen: real window, disk and images, a virtual clock, a played service.
+#include "support/DiskTrash.h"
 #include "support/FakeHttp.h"
 #include "support/FakeImages.h"
 #include "support/FakeMainLoop.h"
@@ -29,8 +30,9 @@ class App
 public:
     explicit App(const TempHome &home, Options options = {})
         : files(home)
+        , trash(home.path(QStringLiteral("Trash")))
         , defaults(home.path(QStringLiteral("prefs.ini")))
-        , delegate({loop, http, defaults, files, alerts, images, random}, std::nullopt,
+        , delegate({loop, http, defaults, files, alerts, images, random, &trash}, std::nullopt,
                    QStringLiteral("http://service/potd"), std::move(options))
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };
@@ -43,7 +45,7 @@ public:
     {
         for (int step = 0; step < qRound(seconds / 0.05); ++step) {
             loop.advance(0.05);
-            while (http.deliver() || images.deliver()) { }
+            while (http.deliver() || images.deliver() || trash.deliver()) { }
         }
         QCoreApplication::processEvents();
     }
@@ -69,6 +71,7 @@ public:
     FakeMainLoop loop;
     FakeHttp http;
     HomeFiles files;
+    DiskTrash trash;
     QtDefaults defaults;
     FakeAlerts alerts;
     FakeImages images;
@@ -119,6 +122,36 @@ TEST_F(AppTest, sourcesFromTheCommandLineFillTheWindow)
     EXPECT_EQ(QDir(home.path(QStringLiteral("Pictures/Moravel"))).entryList(QDir::Files),
               (QStringList{QStringLiteral("A.jpg"), QStringLiteral("B.jpg")}));
     EXPECT_TRUE(app.alerts.shown.isEmpty());
+}
+
+TEST_F(AppTest, aButtonDeletesAPictureAndADoubleClickBringsItBack)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    app.run(20);
+    const ThumbView &cell = app.delegate.cells().at(0);
+    for (const char *restoring : {"captionField", "clicker"}) {
+        const QString field = QString::fromLatin1(restoring);
+        QAbstractButton *button = nullptr;
+        for (auto *each :
+             app.delegate.window().findChildren<QAbstractButton *>(QStringLiteral("deleteBtn")))
+            button = each->property("tag") == cell.tag() ? each : button;
+        ASSERT_TRUE(button);
+        EXPECT_FALSE(button->isHidden());
+        button->click();
+        app.run(1);
+        EXPECT_EQ(cell.captionField(), QStringLiteral("Deleted.\n\nDouble-click to un-delete."));
+        EXPECT_TRUE(button->isHidden());
+        EXPECT_FALSE(QFile::exists(home.path(QStringLiteral("Pictures/Moravel/A.jpg"))));
+        QWidget *card = button->parentWidget();
+        while (!card->findChild<QWidget *>(QStringLiteral("captionField")))
+            card = card->parentWidget();
+        QTest::mouseDClick(card->findChild<QWidget *>(field), Qt::LeftButton);
+        app.run(5);
+        EXPECT_EQ(cell.captionField(), QStringLiteral("Caption A"));
+        EXPECT_TRUE(QFile::exists(home.path(QStringLiteral("Pictures/Moravel/A.jpg"))));
+    }
 }
 
 TEST_F(AppTest, asksAgainWhileTheServiceIsSilent)
