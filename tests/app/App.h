@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/DiskTrash.h"
 #include "support/FakeDesktopPictures.h"
 #include "support/FakeHttp.h"
 #include "support/FakeImages.h"
@@ -26,9 +27,10 @@ public:
     /// With a desktop, or where no desktop picture can be set.
     explicit App(const TempHome &home, Options options = {}, bool withDesktop = false)
         : files(home)
+        , trash(home.path(QStringLiteral("Trash")))
         , defaults(home.path(QStringLiteral("prefs.ini")))
         , delegate(
-              {loop, http, defaults, files, alerts, images, random},
+              {loop, http, defaults, files, alerts, images, random, &trash},
               withDesktop ? std::optional<DesktopPlatform>({&pictures, *this, *this, *this})
                           : std::nullopt,
               {urls,
@@ -48,7 +50,7 @@ public:
     {
         for (int step = 0; step < qRound(seconds / 0.05); ++step) {
             loop.advance(0.05);
-            while (http.deliver() || images.deliver() || pictures.deliver()) { }
+            while (http.deliver() || images.deliver() || pictures.deliver() || trash.deliver()) { }
         }
         QCoreApplication::processEvents();
     }
@@ -75,6 +77,7 @@ public:
     FakeMainLoop loop;
     FakeHttp http;
     HomeFiles files;
+    DiskTrash trash;
     QtDefaults defaults;
     FakeAlerts alerts;
     FakeImages images;

@@ -63,6 +63,36 @@ TEST_F(AppTest, sourcesFromTheCommandLineFillTheWindow)
     EXPECT_TRUE(app.alerts.shown.isEmpty());
 }
 
+TEST_F(AppTest, aButtonDeletesAPictureAndADoubleClickBringsItBack)
+{
+    Options options;
+    options.sources = QStringList{QStringLiteral("all")};
+    App app(home, options);
+    app.run(20);
+    const ThumbView &cell = app.delegate.cells().at(0);
+    for (const char *restoring : {"captionField", "clicker"}) {
+        const QString field = QString::fromLatin1(restoring);
+        QAbstractButton *button = nullptr;
+        for (auto *each :
+             app.delegate.window().findChildren<QAbstractButton *>(QStringLiteral("deleteBtn")))
+            button = each->property("tag") == cell.tag() ? each : button;
+        ASSERT_TRUE(button);
+        EXPECT_FALSE(button->isHidden());
+        button->click();
+        app.run(1);
+        EXPECT_EQ(cell.captionField(), QStringLiteral("Deleted.\n\nDouble-click to un-delete."));
+        EXPECT_TRUE(button->isHidden());
+        EXPECT_FALSE(QFile::exists(home.path(QStringLiteral("Pictures/Moravel/A.jpg"))));
+        QWidget *card = button->parentWidget();
+        while (!card->findChild<QWidget *>(QStringLiteral("captionField")))
+            card = card->parentWidget();
+        QTest::mouseDClick(card->findChild<QWidget *>(field), Qt::LeftButton);
+        app.run(5);
+        EXPECT_EQ(cell.captionField(), QStringLiteral("Caption A"));
+        EXPECT_TRUE(QFile::exists(home.path(QStringLiteral("Pictures/Moravel/A.jpg"))));
+    }
+}
+
 TEST_F(AppTest, asksAgainWhileTheServiceIsSilent)
 {
     App app(home);
