@@ -232,6 +232,8 @@ void DesktopLab::laysOutEachSizing()
     int i = 0;
     for (const auto &row : table) {
         SCOPED_TRACE(i);
+        if (m_shrinksCentred && row.scaling == Centred && row.picture.width() > 800)
+            continue;
         const QColor colour = i % 2 ? QColor(0, 200, 0) : QColor(200, 0, 200);
         const QString path = picture(QStringLiteral("p%1.png").arg(i++), row.picture, colour);
         ASSERT_EQ(set(path, first, row.scaling), QString());
