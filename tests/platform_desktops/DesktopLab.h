@@ -41,6 +41,7 @@ protected:
     virtual void plug(bool in);
 
     QList<int> m_painted{0, 1}; ///< The screens that the desktop paints at all.
+    bool m_shrinksCentred = false; ///< Fits a picture that is centred and larger than the screen.
     QStringList m_refused; ///< The odd names that it cannot keep.
 
     // Tools ------------------------------------------------------------------------------------

@@ -15,6 +15,8 @@ namespace {
 class PlasmaLab : public DesktopLab
 {
 protected:
+    PlasmaLab() { m_shrinksCentred = true; }
+
     static bool isWayland() { return QGuiApplication::platformName() != u"xcb"; }
 
     void setOutside(const QString &path) override

@@ -86,6 +86,7 @@ TEST_F(XfceLab, putsThePictureBackOnAnotherWorkspace)
     m_program->preferences.setDesktopOptions(Preferences::AllSpacesTag);
     m_program->desktop->setter().setDesktopToFile(red);
     EXPECT_TRUE(seenOnAll(Qt::red));
+    EXPECT_TRUE(within(5'000, [&] { return m_program->desktop->currentDesktopPath() == red; }));
     xfconf(m_base + QStringLiteral("1/last-image"), QStringLiteral("string"), blue);
     goTo(1);
     EXPECT_TRUE(within(5'000, [&] { return shown(first) == blue; }));
