@@ -33,10 +33,10 @@ Thumbnail make(const ThumbnailCache &cache, const QString &path, QSize box,
     const ThumbnailKey key{path, file.lastModified().toSecsSinceEpoch(), file.size()};
     const int size = ThumbnailCache::sizeFor(std::max(box.width(), box.height()));
     if (size == 0)
-        return {decodePicture(path, box, stop), key.fileSize};
+        return {decodePicture(path, box, stop).image, key.fileSize};
     QImage image = cache.read(key, size, stop);
     if (image.isNull()) {
-        image = decodePicture(path, {size, size}, stop);
+        image = decodePicture(path, {size, size}, stop).image;
         // A picture that is no larger than its thumbnail is as quick to read itself.
         if (!stop && std::max(image.width(), image.height()) == size)
             cache.write(key, size, image);
