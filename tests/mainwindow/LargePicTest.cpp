@@ -54,7 +54,7 @@ protected:
 
 TEST_F(LargePicTest, showsSizeTextAndInfo)
 {
-    images.size = {4000, 3000};
+    images.pictureSize = {4000, 3000};
     f.keep(QStringLiteral("0.jpg"));
     open(0);
     EXPECT_TRUE(f.large.isVisible());
@@ -178,7 +178,7 @@ TEST_F(LargePicTest, keysStepDeleteAndClose)
 
 TEST_F(LargePicTest, mouseZoomsAndFitsTheWindow)
 {
-    images.size = {600, 300};
+    images.pictureSize = {600, 300};
     f.keep(QStringLiteral("0.jpg"));
     open(0);
     LargeImageView &view = f.large.pic()->largeImage();
@@ -192,7 +192,7 @@ TEST_F(LargePicTest, mouseZoomsAndFitsTheWindow)
     settle();
     EXPECT_EQ(f.large.pic()->geometry(), before);
 
-    images.size = {4000, 3000};
+    images.pictureSize = {4000, 3000};
     f.large.displayPicFile(f.large.currentLargePicPath());
     settle();
     EXPECT_LT(view.image().width(), 1000) << "decoded for what is seen";

@@ -22,7 +22,7 @@ public:
         });
     }
 
-    /// A picture of size(), decoded into the box.
+    /// A picture of pictureSize, decoded into the box.
     DecodingHandle decode(const QString &path, QSize box,
                           std::function<void(DecodedPicture)> done) override
     {
@@ -37,11 +37,12 @@ public:
         m_waiting.push_back([this, done, box, alive, ok = isPicture(path)] {
             if (alive.expired())
                 return;
-            const bool large = size.width() > box.width() || size.height() > box.height();
-            QImage image(large ? size.scaled(box, Qt::KeepAspectRatio) : size,
+            const bool large =
+                pictureSize.width() > box.width() || pictureSize.height() > box.height();
+            QImage image(large ? pictureSize.scaled(box, Qt::KeepAspectRatio) : pictureSize,
                          QImage::Format_RGB32);
             image.fill(Qt::darkCyan);
-            done(ok ? DecodedPicture{image, size} : DecodedPicture());
+            done(ok ? DecodedPicture{image, pictureSize} : DecodedPicture());
         });
         return handle;
     }
@@ -69,7 +70,7 @@ public:
         return image;
     }
 
-    QSize size{4, 3}; ///< Of the pictures that decode() gives.
+    QSize pictureSize{4, 3}; ///< Of the pictures that decode() gives.
     int decodings = 0;
 
     bool deliver()
