@@ -2,6 +2,8 @@
 // The whole application offscreen: real window, disk and images, a virtual clock, a played service.
 #include "App.h"
 
+#include "support/Wait.h"
+
 #include "mainwindow/CaptionLabel.h"
 #include "mainwindow/LargePicWindow.h"
 
