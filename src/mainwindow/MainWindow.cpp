@@ -118,7 +118,7 @@ void MainWindow::buildViewMenu(ToolTips &toolTips)
 
 QAction *MainWindow::makeSideBarItem()
 {
-    QAction *item = makeCheckItem(tr("Show Side &Bar"), this, [this] {
+    QAction *item = makeCheckItem(tr("Show &Side Bar"), this, [this] {
         m_splitView->setCollapsed(!m_splitView->isCollapsed());
     });
     item->setObjectName(QStringLiteral("sideBarMenuItem"));

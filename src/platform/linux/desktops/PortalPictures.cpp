@@ -62,7 +62,11 @@ PortalPictures::PortalPictures(Files &files, const QString &recordPath, const QD
     , m_file(files, recordPath)
     , m_record(m_file.read())
     , m_screens([] {}) // the desktop lays its picture out anew by itself
-{ }
+{
+    // Of all requests: an answer may come before the object of its request is known.
+    m_bus.connect(Service, {}, RequestInterface, QStringLiteral("Response"), this,
+                  SLOT(response(uint, QVariantMap, QDBusMessage)));
+}
 
 bool PortalPictures::isThere(const QDBusConnection &bus)
 {
