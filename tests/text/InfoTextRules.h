@@ -44,16 +44,18 @@ private:
                                             QStringLiteral("&gt;"), QStringLiteral("&quot;")};
         static const QRegularExpression link(
             QStringLiteral("\\A<a href=\"(https?://[^\\s\"<>]+|#updatePODCaption)\">\\z"));
+        static const QRegularExpression newLine(
+            QStringLiteral("\\A</?(br|p|blockquote|ul|ol|li)>\\z"));
+        if (newLine.match(piece).hasMatch())
+            m_word = 0;
         if (piece[0] == u'<') {
             if (piece.startsWith(u"</"))
                 return !m_open.isEmpty() && piece == QStringLiteral("</%1>").arg(m_open.takeLast());
             const bool isLink = link.match(piece).hasMatch();
             if (isLink || names.contains(piece.sliced(1).chopped(1)))
                 m_open.append(isLink ? QStringLiteral("a") : piece.sliced(1).chopped(1));
-            else if (piece == u"<br>")
-                m_word = 0;
             else
-                return false;
+                return piece == u"<br>";
             return true;
         }
         m_word = piece == u" " || piece == QChar(0x200B) ? 0 : m_word + 1;
@@ -69,7 +71,7 @@ private:
     }
 
     QStringList m_open;
-    int m_word = 0; // a block may go on with the word before it: that only counts more
+    int m_word = 0;
 };
 
 inline QString faultOfInfoText(const QString &html)
