@@ -186,7 +186,6 @@ int main(int argc, char **argv)
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("moravel"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Moravel"));
     QApplication::setApplicationVersion(QStringLiteral(MORAVEL_VERSION));
     QApplication::setDesktopFileName(ProgramName);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/moravel/icon.svg")));
