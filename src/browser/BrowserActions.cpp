@@ -218,7 +218,7 @@ void BrowserActions::deleteItems(const QList<int> &indexes)
 void BrowserActions::markDeleted(ThumbView &cell) const
 {
     cell.setThumbPath(ThumbView::deletedMark());
-    cell.showCaption(tr("Deleted."));
+    cell.showCaption(QStringLiteral("Deleted.")); // a mark that the cell knows: not translated here
     cell.showThumbImage(m_context.cells.images().trashcan, ThumbView::deletedMark());
 }
 

@@ -178,22 +178,22 @@ void BrowserWindow::makeCommands(const BrowserCommands &commands)
     }
 }
 
-void BrowserWindow::addKey(const QKeySequence &key, const std::function<void()> &command)
+void BrowserWindow::addKey(const QList<QKeySequence> &keys, const std::function<void()> &command)
 {
     auto *action = new QAction(this);
-    action->setShortcut(key);
+    action->setShortcuts(keys);
     connect(action, &QAction::triggered, this, command);
     addAction(action);
 }
 
 void BrowserWindow::addZoomKeys()
 {
-    addKey(QKeySequence::Find, [this] { focusSearchField(); });
-    addKey(QKeySequence::Close, [this] { close(); });
-    addKey(Qt::CTRL | Qt::Key_Plus, [this] { stepZoom(1); });
-    addKey(Qt::CTRL | Qt::Key_Equal, [this] { stepZoom(1); });
-    addKey(Qt::CTRL | Qt::Key_Minus, [this] { stepZoom(-1); });
-    addKey(Qt::CTRL | Qt::Key_0, [this] { m_zoomSlider->setValue(sliderValue(UsualZoom)); });
+    addKey(QKeySequence::keyBindings(QKeySequence::Find), [this] { focusSearchField(); });
+    addKey(QKeySequence::keyBindings(QKeySequence::Close), // on Linux two
+           [this] { close(); });
+    addKey({Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [this] { stepZoom(1); });
+    addKey({Qt::CTRL | Qt::Key_Minus}, [this] { stepZoom(-1); });
+    addKey({Qt::CTRL | Qt::Key_0}, [this] { m_zoomSlider->setValue(sliderValue(UsualZoom)); });
 }
 
 void BrowserWindow::tieImageBrowser()

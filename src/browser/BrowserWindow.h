@@ -66,7 +66,7 @@ private:
     void makeCommands(const BrowserCommands &commands);
     void addCommand(const std::function<void()> &command, const char *name, const QString &icon,
                     const QString &title, const QList<QKeySequence> &keys);
-    void addKey(const QKeySequence &key, const std::function<void()> &command);
+    void addKey(const QList<QKeySequence> &keys, const std::function<void()> &command);
     void addZoomKeys();
     void tieImageBrowser();
     void followSelection();

@@ -134,6 +134,9 @@ TEST_F(ViewTest, saysWhatTheUserWants)
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QStringLiteral("/x/a b.jpg")),
                   QUrl(QStringLiteral("http://x/b.jpg"))});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(view.viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(view.viewport(), &drop);
     ASSERT_EQ(dropped.size(), 1);

@@ -66,8 +66,9 @@ TEST_F(QtThumbnailsTest, sharesThumbnailsWithFileManagers)
     const QString file = kept(QStringLiteral("large"), uri);
     QImageReader reader(file);
     EXPECT_EQ(reader.size(), QSize(256, 128));
-    EXPECT_EQ(reader.text(QStringLiteral("Thumb::URI")).toUtf8(), uri);
-    EXPECT_EQ(reader.text(QStringLiteral("Thumb::MTime")),
+    const QImage image = reader.read();
+    EXPECT_EQ(image.text(QStringLiteral("Thumb::URI")).toUtf8(), uri);
+    EXPECT_EQ(image.text(QStringLiteral("Thumb::MTime")),
               QString::number(QFileInfo(path).lastModified().toSecsSinceEpoch()));
     for (const auto others : {QFile::ReadGroup, QFile::ReadOther, QFile::ExeOwner})
         EXPECT_FALSE(QFileInfo(file).permission(others));

@@ -53,15 +53,15 @@ QImage readChecked(const QString &file, int edge, const QByteArray &uri, const T
     QImageReader reader(&device, "png");
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > edge || size.height() > edge
-        || reader.text(key("URI")).toUtf8() != uri
-        || reader.text(key("MTime")) != QString::number(wanted.modified))
+    if (size.isEmpty() || size.width() > edge || size.height() > edge)
         return {};
-    const QString fileSize = reader.text(key("Size"));
-    if (!fileSize.isEmpty() && fileSize != QString::number(wanted.fileSize))
-        return {};
+    // From the image: the reader takes a colon for the end of a text's name.
     QImage image = reader.read();
-    if (device.wasTooShort())
+    if (device.wasTooShort() || image.text(key("URI")).toUtf8() != uri
+        || image.text(key("MTime")) != QString::number(wanted.modified))
+        return {};
+    const QString fileSize = image.text(key("Size"));
+    if (!fileSize.isEmpty() && fileSize != QString::number(wanted.fileSize))
         return {};
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
                                             : QImage::Format_RGB32);
