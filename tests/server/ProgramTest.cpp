@@ -21,8 +21,14 @@ constexpr int patienceMs = 30'000;
 
 struct Program : QProcess
 {
+    testing::TempHome home;
+
     explicit Program(const QStringList &arguments)
     {
+        auto environment = QProcessEnvironment::systemEnvironment();
+        for (const char *folder : {"XDG_STATE_HOME", "XDG_CACHE_HOME"})
+            environment.insert(QString::fromLatin1(folder), home.path());
+        setProcessEnvironment(environment);
         start(QStringLiteral(MORAVEL_SERVICE_PROGRAM), arguments);
     }
 
@@ -96,7 +102,8 @@ TEST(Program, TakesTheSocketOfTheServiceManager)
 TEST(Program, SaysWhyItCannotRun)
 {
     const testing::TempHome home;
-    Program first({QStringLiteral("--port"), QStringLiteral("0")});
+    Program first({QStringLiteral("--config"), QStringLiteral(MORAVEL_SERVICE_PACKAGED_CONFIG),
+                   QStringLiteral("--port"), QStringLiteral("0")});
     const QString taken = QString::number(first.port());
     const QString unknown =
         home.write(QStringLiteral("c.json"), R"({"computedSources": {"Nothing": true}})");
