@@ -4,6 +4,7 @@
 #include "platform/qt/Log.h"
 #include "platform/qt/PictureFile.h"
 
+#include <QBuffer>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QImageReader>
@@ -50,14 +51,20 @@ QImage readChecked(const QString &file, int edge, const QByteArray &uri, const T
     WatchedFile device(file, stop);
     if (!device.openPicture() || device.size() > LargestFile)
         return {};
-    QImageReader reader(&device, "png");
+    // Whole at first: libpng writes to the error output when a reading is stopped in its midst.
+    QByteArray bytes = device.readAll();
+    if (stop || bytes.size() != device.size())
+        return {};
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, "png");
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > edge || size.height() > edge)
         return {};
     // From the image: the reader takes a colon for the end of a text's name.
     QImage image = reader.read();
-    if (device.wasTooShort() || image.text(key("URI")).toUtf8() != uri
+    if (image.text(key("URI")).toUtf8() != uri
         || image.text(key("MTime")) != QString::number(wanted.modified))
         return {};
     const QString fileSize = image.text(key("Size"));
