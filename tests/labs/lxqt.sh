@@ -13,10 +13,10 @@ desktop_is_gone() { ! desktop_is_up; }
 waitfor 60 desktop_is_up
 
 restart() {
-  pcmanfm-qt --desktop-off --profile=lxqt
+  stop_owner org.pcmanfm.PCManFM # asked to close its desktop, it lives on for a while and takes the next start
   waitfor 20 desktop_is_gone
   pcmanfm-qt --desktop --profile=lxqt >>"$LAB/desktop.log" 2>&1 &
   waitfor 60 desktop_is_up
 }
-export -f restart desktop_is_up desktop_is_gone waitfor
+export -f restart stop_owner desktop_is_up desktop_is_gone waitfor
 "$@"

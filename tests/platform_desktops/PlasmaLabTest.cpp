@@ -118,7 +118,8 @@ TEST_F(PlasmaLab, readsASlideshowAsItsFolderAndEndsIt)
                .arg(m_folder.path()));
     EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }));
     script(QStringLiteral("d.wallpaperPlugin = 'org.kde.color';"));
-    EXPECT_TRUE(within(1'000, [&] { return shown(first).isEmpty(); }));
+    // Plasma writes a change of the plug-in alone, which is all that can be watched, when it likes.
+    EXPECT_TRUE(within(20'000, [&] { return shown(first).isEmpty(); }));
     const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
     ASSERT_EQ(set(blue, first, DesktopScaling::Fill), QString());
     EXPECT_EQ(shown(first), blue);

@@ -64,7 +64,7 @@ void GSettingsPictures::setDesktopImageUrl(const QString &url, const QString &,
     }
     const auto go = [this, scaling, done](const QString &file) { hand(file, scaling, done); };
     if (m_copies)
-        m_copies->prepare(path, sizesOf(screens()), scaling, go);
+        m_copies->prepare(path, sizesOf(screens()), scaling, go, desktopImageUrl({}) == url);
     else
         later([go, path] { go(path); });
 }

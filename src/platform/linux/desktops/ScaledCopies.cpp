@@ -57,7 +57,7 @@ ScaledCopies::~ScaledCopies()
 }
 
 void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
-                           DesktopScaling scaling, std::function<void(QString)> done)
+                           DesktopScaling scaling, std::function<void(QString)> done, bool isShown)
 {
     static const QRegularExpression special(QStringLiteral("[%#?]"));
     const CopyOrder order{picture,
@@ -65,7 +65,7 @@ void ScaledCopies::prepare(const QString &picture, const QList<QSize> &screens,
                           scaling,
                           m_folder,
                           versionFor(picture),
-                          m_kind == CopyKind::PlainNames && picture.contains(special),
+                          m_kind == CopyKind::PlainNames && (isShown || picture.contains(special)),
                           m_kind == CopyKind::Cut};
     m_pool.start([this, order, done = std::move(done)] {
         const QString name = makeCopy(order, m_stop);

@@ -15,7 +15,9 @@ namespace moravel {
 /// What a desktop needs copies for.
 enum class CopyKind {
     Scaled, ///< It keeps decoded pictures: smaller ones.
-    PlainNames, ///< The same, and a path with a %, # or ? gets at least a link with a plain name.
+    /// The same, and it reads a path only once, and none with a %, # or ?: those get at least a link with
+    /// a plain name, and so does a picture that is handed over while it is shown.
+    PlainNames,
     Cut, ///< It fills a screen only by stretching: copies in the shape of the first screen.
 };
 
@@ -34,7 +36,7 @@ public:
     /// missing, or the picture itself when it is not much larger than what @p screens show, or cannot
     /// be read or copied. Calls @p done later, never from within, in the order of the calls.
     void prepare(const QString &picture, const QList<QSize> &screens, DesktopScaling scaling,
-                 std::function<void(QString)> done);
+                 std::function<void(QString)> done, bool isShown = false);
 
     /// Returns the picture that @p path is a copy of; @p path itself when it is none of ours.
     QString original(const QString &path) const;
