@@ -25,7 +25,7 @@ ComputedPictures::ComputedPictures(std::unique_ptr<ComputedSource> source, Rende
 
 tl::expected<DayPicture, Unavailable> ComputedPictures::describe(QDate date) const
 {
-    const DayText text = m_source->text(date);
+    const DayText text = textOf(date);
     const QSize size = sizeOf(PictureKind::Full);
     return DayPicture{text.caption,
                       text.info,
@@ -33,6 +33,17 @@ tl::expected<DayPicture, Unavailable> ComputedPictures::describe(QDate date) con
                       size,
                       estimatedMegabytes(size),
                       QStringLiteral("3840x2160.jpg")};
+}
+
+DayText ComputedPictures::textOf(QDate date) const
+{
+    const QByteArray key = QByteArray::number(date.toJulianDay());
+    if (auto known = m_texts.find(key))
+        return *std::move(known);
+    DayText text = m_source->text(date);
+    const qsizetype characters = text.caption.size() + text.info.size();
+    m_texts.put(key, text, characters * qsizetype(sizeof(QChar)));
+    return text;
 }
 
 tl::expected<Content, Unavailable> ComputedPictures::picture(QDate date, PictureKind kind) const

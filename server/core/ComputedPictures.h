@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "server/core/Recent.h"
 #include "server/core/RenderCache.h"
 #include "server/sources/ComputedSource.h"
 
@@ -21,8 +22,12 @@ public:
     tl::expected<Content, Unavailable> picture(QDate date, PictureKind kind) const override;
 
 private:
+    DayText textOf(QDate date) const;
+
     const std::unique_ptr<ComputedSource> m_source;
     RenderCache &m_cache;
+    /// Finding a fractal worth showing takes 20 ms; this much holds the texts of some six years.
+    mutable Recent<DayText> m_texts{qsizetype(2) << 20};
 };
 
 } // namespace moravel::server
