@@ -6,6 +6,7 @@
 #include "mainwindow/LargePicWindow.h"
 #include "mainwindow/PicInfo.h"
 #include "mainwindow/PictureSizeText.h"
+#include "thumb/OriginalPage.h"
 
 #include <QIcon>
 

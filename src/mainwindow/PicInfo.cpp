@@ -31,12 +31,6 @@ QString infoDocument(const QString &safeHtml)
         .arg(safeHtml);
 }
 
-QString originalPage(const QString &shortSourceName, const QString &parentPath)
-{
-    const bool isUsable = shortSourceName != u"Wiki" || parentPath.contains(QLatin1String("File:"));
-    return isUsable ? parentPath : QString();
-}
-
 bool isWebAddress(const QUrl &address)
 {
     const QString scheme = address.scheme();

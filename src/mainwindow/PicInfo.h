@@ -27,10 +27,6 @@ enum class LinkAction { Nothing, RefreshCaption, OpenInBrowser };
 /// What a click on a link of the text does. Only http and https leave the program.
 LinkAction linkAction(const QUrl &link);
 
-/// Returns a picture's original page as its record has it; "" where that is no page of the picture itself,
-/// so that the service must be asked.
-QString originalPage(const QString &shortSourceName, const QString &parentPath);
-
 bool isWebAddress(const QUrl &address);
 
 } // namespace moravel

@@ -2,16 +2,11 @@
 #include "share/ShareTexts.h"
 
 #include "share/UrlText.h"
+#include "thumb/OriginalPage.h"
 
 namespace moravel {
 
 namespace {
-
-// On this source's site only the page of the file itself is about the picture.
-bool isUsablePage(const QString &shortSource, const QString &page)
-{
-    return shortSource != u"Wiki" || page.contains(QLatin1String("File:"));
-}
 
 QString title(const SharedPicture &picture)
 {
@@ -26,7 +21,7 @@ SharedPicture::SharedPicture(const ThumbView &cell)
     , longSourceName(cell.longSourceName())
     , dateString(cell.dateString())
     , captionString(cell.captionString())
-    , page(isUsablePage(cell.shortSourceName(), cell.parentPath()) ? cell.parentPath() : QString())
+    , page(originalPage(cell.shortSourceName(), cell.parentPath()))
 { }
 
 QString clipboardText(const SharedPicture &picture)

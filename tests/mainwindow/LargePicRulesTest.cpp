@@ -5,6 +5,7 @@
 #include "mainwindow/PictureSizeText.h"
 #include "mainwindow/PictureZoom.h"
 #include "mainwindow/StandardFrame.h"
+#include "thumb/OriginalPage.h"
 
 #include <gtest/gtest.h>
 
