@@ -3,6 +3,7 @@
 // the window, zooms to its own size and back, and beats a heart every 5 ms meanwhile. Tells how long
 // each picture took, the longest stall of the main loop, and the memory.
 #include "RealPlatform.h"
+#include "bench/ProcessMemory.h"
 
 #include "mainwindow/LargePic.h"
 #include "mainwindow/LargePicWindow.h"
@@ -39,26 +40,6 @@ void writePicture(const QString &path, double megapixels)
     QImageWriter writer(path, "jpeg");
     writer.setQuality(92);
     writer.write(image);
-}
-
-double residentMb(const char *field)
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith(field))
-            return line.mid(line.indexOf(':') + 1).trimmed().split(' ').first().toDouble() / 1024;
-    }
-    return 0;
-}
-
-/// What was needed to make the picture does not count.
-void forgetPeak()
-{
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write("5");
 }
 
 /// Counts what the main loop misses.
@@ -106,8 +87,8 @@ public:
             "%-12s sharp after %5lld ms, longest gap between 5 ms beats %3lld ms, image %dx%d, "
             "memory %.0f MB (peak %.0f MB)\n",
             what, static_cast<long long>(took), static_cast<long long>(m_heart.worst),
-            m_view.image().width(), m_view.image().height(), residentMb("VmRSS"),
-            residentMb("VmHWM"));
+            m_view.image().width(), m_view.image().height(), bench::memoryMb("VmRSS"),
+            bench::memoryMb("VmHWM"));
     }
 
 private:
@@ -134,9 +115,9 @@ int main(int argc, char **argv)
     cell.setInfoString(QStringLiteral("Text"));
     const QString path = links.picLinkToPath(cell.picPath(), false, false);
     writePicture(path, megapixels);
-    forgetPeak();
+    bench::forgetPeak();
     std::printf("%.0f megapixels, %.1f MB on disk, memory before %.0f MB\n", megapixels,
-                static_cast<double>(QFile(path).size()) / 1e6, residentMb("VmRSS"));
+                static_cast<double>(QFile(path).size()) / 1e6, bench::memoryMb("VmRSS"));
 
     LargePic large({cells, platform.files, platform.images, folders, links}, {});
     QElapsedTimer making;

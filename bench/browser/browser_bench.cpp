@@ -3,6 +3,7 @@
 // is HOME/share) in the whole application and tells how long things take, as the user feels them: from the
 // command or the key to the painted window. With "all" it also scrolls until every picture has been shown; with
 // "stay" it only opens the browser, for scripts/bench-browser, which measures it beside other programs.
+#include "bench/ProcessMemory.h"
 #include "bench/app/RealPlatform.h"
 
 #include "app/MoravelAppDelegate.h"
@@ -25,15 +26,6 @@
 namespace {
 
 using namespace moravel;
-
-double rssMb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray text = status.readAll();
-    return text.mid(text.indexOf("VmRSS:") + 6).trimmed().split(' ').first().toDouble() / 1024;
-}
 
 double milliseconds(const QElapsedTimer &clock)
 {
@@ -168,7 +160,7 @@ int main(int argc, char **argv)
         return QApplication::exec();
     }
     rest(500);
-    const double idle = rssMb();
+    const double idle = bench::memoryMb("VmRSS");
     Browser &browser = delegate.browser()->browser();
     BrowserWindow &window = browser.browserWindow();
     ImageBrowserView &view = window.imageBrowser();
@@ -201,6 +193,6 @@ int main(int argc, char **argv)
     scroll(view, "frame, line by line", 60, 300);
     scroll(view, "frame, end to end", std::max(1, view.verticalScrollBar()->maximum() / 300), 300);
     rest(2000);
-    std::printf("memory over the idle window   %.0f MB\n", rssMb() - idle);
+    std::printf("memory over the idle window   %.0f MB\n", bench::memoryMb("VmRSS") - idle);
     return 0;
 }

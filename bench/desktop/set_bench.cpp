@@ -2,6 +2,8 @@
 // set_bench TOOL ROUNDS WIDTHxHEIGHT…: from the call until both screens (800x600, side by side) show another
 // picture, by our backend and by the desktop's own tool in turn. Prints medians, their ratio, and the peak of
 // memory above idle. Runs inside a desktop on X.
+#include "bench/ProcessMemory.h"
+
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
 #include "platform/linux/desktops/FileUrls.h"
@@ -47,26 +49,6 @@ const QHash<QString, QString> &tools()
              "d.writeConfig('Image', 'file://$1'); d.writeConfig('FillMode', 2) })\" >/dev/null")},
     };
     return commands;
-}
-
-/// A value of /proc/self/status in MB.
-double status(const char *name)
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    for (const QByteArray &line : file.readAll().split('\n')) {
-        if (line.startsWith(name))
-            return line.mid(line.indexOf(':') + 1).trimmed().split(' ').first().toDouble() / 1024;
-    }
-    return 0;
-}
-
-void forgetPeak()
-{
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
-    if (file.open(QIODevice::WriteOnly))
-        file.write("5");
 }
 
 bool isBase(int x)
@@ -160,11 +142,11 @@ public:
         for (int i = 0; i < rounds; ++i) {
             backToBase();
             const QString path = picture(size, 2 * i);
-            const double idle = status("VmRSS");
-            forgetPeak();
+            const double idle = bench::memoryMb("VmRSS");
+            bench::forgetPeak();
             mine.append(ours(path));
             pause(300);
-            peak = std::max(peak, status("VmHWM") - idle);
+            peak = std::max(peak, bench::memoryMb("VmHWM") - idle);
             backToBase();
             const QString other = picture(size, 2 * i + 1);
             others.append(theirs(other));
