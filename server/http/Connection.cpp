@@ -56,10 +56,26 @@ void Connection::socketChanged(bool readable, bool writable, Clock::time_point n
     advance(now);
 }
 
-/// Goes on as far as the bytes at hand and the answers allow.
+void Connection::goOn(Clock::time_point now)
+{
+    m_gaveWay = false;
+    socketChanged(false, true, now);
+}
+
+/// A client that never stops asking or taking must not keep the others waiting.
+void Connection::giveWay()
+{
+    if (!std::exchange(m_gaveWay, true))
+        m_host.comeBack(m_id);
+}
+
+/// Goes on as far as the bytes at hand and the answers allow, for one turn.
 void Connection::advance(Clock::time_point now)
 {
-    while (m_state == State::Reading) {
+    constexpr int mostSteps = 64;
+    for (int step = 0; m_state == State::Reading; ++step) {
+        if (step == mostSteps)
+            return giveWay();
         const qsizetype before = m_in.size();
         if (!m_in.isEmpty())
             takeRequest(now);
@@ -155,7 +171,10 @@ void Connection::write(Clock::time_point now)
         if (!writeBytes(now))
             return;
     }
-    while (m_bodyAt < m_bodyEnd) {
+    constexpr int mostChunks = 4;
+    for (int chunk = 0; m_bodyAt < m_bodyEnd; ++chunk) {
+        if (chunk == mostChunks)
+            return giveWay();
         if (!writeFile(now))
             return;
     }
@@ -185,7 +204,6 @@ bool Connection::writeBytes(Clock::time_point now)
 
 bool Connection::writeFile(Clock::time_point now)
 {
-    // Not all at once, lest one fast client keeps the others waiting while a file is read.
     constexpr qint64 chunk = 1 << 20;
     const auto size = static_cast<size_t>(std::min(chunk, m_bodyEnd - m_bodyAt));
     ssize_t count = 0;

@@ -14,6 +14,7 @@ class ConnectionHost
 public:
     virtual ~ConnectionHost() = default;
     virtual void dispatch(quint64 connection, const Request &request) = 0;
+    virtual void comeBack(quint64 connection) = 0; ///< Calls goOn() after the others' turns.
     virtual const QByteArray &date() const = 0;
     virtual bool isStopping() const = 0;
 };
@@ -33,6 +34,7 @@ public:
 
     void socketChanged(bool readable, bool writable, Clock::time_point now);
     void answer(Response response, Clock::time_point now);
+    void goOn(Clock::time_point now); ///< Takes up what it left to give others a turn.
     void checkTime(Clock::time_point now);
     void stopAsking(); ///< No further request is taken.
 
@@ -60,6 +62,7 @@ private:
     bool progressed(ssize_t count, Clock::time_point now);
     void finishAnswer(Clock::time_point now);
     void drain();
+    void giveWay();
 
     const quint64 m_id;
     const int m_socket;
@@ -72,6 +75,7 @@ private:
     bool m_headOnly = false;
     bool m_keepAlive = true;
     bool m_sentContinue = false;
+    bool m_gaveWay = false; ///< goOn() will come.
     QByteArray m_in;
     QByteArray m_out;
     qsizetype m_sent = 0; ///< Of m_out.

@@ -13,7 +13,8 @@ struct ConnectionLimits
     int idleMs = 5000; ///< Between two requests.
     int writeMs = 10'000; ///< Without the client taking a byte.
     int answerMs = 300'000; ///< For a whole answer, however steadily it is taken.
-    std::size_t connections = 8192; ///< At once; beyond it the oldest that asks nothing goes.
+    std::size_t connections =
+        8192; ///< At once; beyond it the oldest that asks nothing goes, else the new one.
 };
 
 } // namespace moravel::server

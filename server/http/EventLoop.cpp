@@ -40,8 +40,13 @@ bool isLoopback(int socket)
         return ntohl(four->sin_addr.s_addr) >> 24 == 127;
     }
     const auto *six = reinterpret_cast<const sockaddr_in6 *>(&address);
+    constexpr int mappedAt =
+        12; // Where an IPv4 address lies in the IPv6 address that stands for it.
     return address.ss_family == AF_UNIX
-        || (address.ss_family == AF_INET6 && IN6_IS_ADDR_LOOPBACK(&six->sin6_addr));
+        || (address.ss_family == AF_INET6
+            && (IN6_IS_ADDR_LOOPBACK(&six->sin6_addr)
+                || (IN6_IS_ADDR_V4MAPPED(&six->sin6_addr)
+                    && six->sin6_addr.s6_addr[mappedAt] == 127)));
 }
 
 } // namespace
@@ -171,14 +176,12 @@ void EventLoop::acceptAll()
 
 void EventLoop::add(int socket)
 {
-    if (m_stopping) {
+    if (m_stopping || (m_connections.size() >= m_mostConnections && !makeRoom())) {
         ::close(socket);
         return;
     }
     const int on = 1;
     ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-    if (m_connections.size() >= m_mostConnections)
-        makeRoom();
     const quint64 id = ++m_lastId;
     ConnectionHost &host = *this;
     m_connections.emplace(
@@ -186,9 +189,9 @@ void EventLoop::add(int socket)
     watch(m_epoll, socket, id, EPOLLIN | EPOLLOUT | EPOLLET);
 }
 
-/// Closes the connection that has asked nothing for the longest time; when all are being answered,
-/// the new one has to share what there is.
-void EventLoop::makeRoom()
+/// Closes the connection that has asked nothing for the longest time; false when all are being
+/// answered.
+bool EventLoop::makeRoom()
 {
     const Connection *oldest = nullptr;
     for (const auto &[id, connection] : m_connections) {
@@ -196,8 +199,7 @@ void EventLoop::makeRoom()
             && (!oldest || connection->lastProgress() < oldest->lastProgress()))
             oldest = connection.get();
     }
-    if (oldest)
-        m_connections.erase(oldest->id());
+    return oldest && m_connections.erase(oldest->id()) > 0;
 }
 
 void EventLoop::runTasks()
@@ -231,6 +233,18 @@ void EventLoop::dispatch(quint64 connection, const Request &request)
     } catch (...) { // The ticket has told the client.
     }
     m_dispatching = 0;
+}
+
+void EventLoop::comeBack(quint64 connection)
+{
+    post([this, connection] {
+        const auto at = m_connections.find(connection);
+        if (at == m_connections.end())
+            return;
+        Connection &waiting = *at->second;
+        waiting.goOn(m_now);
+        removeIfOver(waiting);
+    });
 }
 
 void EventLoop::finish(quint64 connection, Response response)

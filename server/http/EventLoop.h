@@ -38,6 +38,7 @@ public:
 private:
     friend class Ticket;
     void dispatch(quint64 connection, const Request &request) override;
+    void comeBack(quint64 connection) override;
     void finish(quint64 connection, Response response);
 
     const QByteArray &date() const override { return m_date; }
@@ -48,7 +49,7 @@ private:
     void acceptAll();
     void runTasks();
     void checkTimes();
-    void makeRoom();
+    bool makeRoom();
     void removeIfOver(Connection &connection);
 
     const AsyncHandler m_handler;

@@ -10,6 +10,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <utility>
 
 namespace moravel::server {
 
@@ -21,18 +22,19 @@ std::size_t loopCount()
     return std::clamp(std::thread::hardware_concurrency(), 1U, most);
 }
 
-/// Each connection is a file; the usual limit of 1024 is there for programs that use select().
+/// Each connection is a file, and may be sent another; the usual limit of 1024 is there for programs
+/// that use select().
 std::size_t connectionsPossible(std::size_t wanted)
 {
     constexpr rlim_t others = 128;
     rlimit files{};
     ::getrlimit(RLIMIT_NOFILE, &files);
-    const rlim_t target = std::min<rlim_t>(files.rlim_max, wanted + others);
-    if (files.rlim_cur < target) {
-        files.rlim_cur = target;
-        ::setrlimit(RLIMIT_NOFILE, &files);
-    }
-    return std::min<std::size_t>(wanted, files.rlim_cur > others ? files.rlim_cur - others : 1);
+    const rlim_t target = std::min<rlim_t>(files.rlim_max, 2 * wanted + others);
+    const rlim_t before = std::exchange(files.rlim_cur, std::max(files.rlim_cur, target));
+    if (::setrlimit(RLIMIT_NOFILE, &files) != 0)
+        files.rlim_cur = before;
+    return std::clamp<std::size_t>((files.rlim_cur - std::min(files.rlim_cur, others)) / 2, 1,
+                                   wanted);
 }
 
 /// The port of a listening socket, or 0.

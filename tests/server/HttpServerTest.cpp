@@ -67,6 +67,15 @@ public:
         return all;
     }
 
+    /// Takes so many bytes without looking at them.
+    void drop(qsizetype bytes) const
+    {
+        char buffer[65536];
+        for (ssize_t count = 1; bytes > 0 && count > 0; bytes -= count)
+            count = ::recv(m_socket, buffer,
+                           std::min<size_t>(sizeof buffer, static_cast<size_t>(bytes)), 0);
+    }
+
     /// A byte from time to time, each well before the server's patience with silence ends.
     void dripUntilClosed() const
     {
@@ -260,13 +269,39 @@ TEST(HttpServer, DrippingAndSilentClientsAreDroppedWhileOthersAreServed)
 
 TEST(HttpServer, IdleConnectionsMakeRoomForOthers)
 {
-    const Running running({}, {.readMs = 2000, .requestMs = 2000, .idleMs = 3'600'000});
+    const Running running(
+        {}, {.readMs = 2000, .requestMs = 2000, .idleMs = 3'600'000, .connections = 8});
     std::vector<std::unique_ptr<Client>> idle;
     for (int i = 0; i < 40; ++i) {
         idle.push_back(std::make_unique<Client>(running.port));
         idle.back()->send(get("/x", {}));
         EXPECT_TRUE(idle.back()->until("h .").endsWith("GET /x h ."));
     }
+}
+
+TEST(HttpServer, WhoNeverStopsAskingLeavesTurnsToOthers)
+{
+    const Running running;
+    std::atomic<bool> stop{false};
+    std::vector<std::thread> greedy;
+    for (int i = 0; i < 8; ++i) { // More than there are loops.
+        greedy.emplace_back([&] {
+            constexpr int many = 400;
+            const Client client(running.port);
+            client.send(get("/x", {}));
+            const qsizetype size = client.until("h .").size();
+            for (int round = 0; !stop; ++round) {
+                client.send(get("/x", {}).repeated(many));
+                if (round > 0)
+                    client.drop(many * size); // Of the round before: there is always more to do.
+            }
+        });
+    }
+    for (int i = 0; i < 20; ++i)
+        EXPECT_TRUE(running.answer(get("/y")).endsWith("GET /y h ."));
+    stop = true;
+    for (std::thread &thread : greedy)
+        thread.join();
 }
 
 TEST(HttpServer, StopLetsAnswersInProgressFinish)
