@@ -54,13 +54,13 @@ tl::expected<void, QString> addSources(SourceList &list, const Config &config, R
     for (auto &source : computedSources()) {
         if (switches.take(source->shortName())
             || !config.computedSources.contains(source->shortName()))
-            list.add(std::make_unique<ComputedPictures>(std::move(source), cache));
+            list.add(std::make_unique<ComputedPictures>(std::move(source), cache), true);
     }
     if (!switches.isEmpty())
         return tl::unexpected(QStringLiteral("\"computedSources\": there is no \"%1\"")
                                   .arg(switches.keys().constFirst()));
     for (const FolderSetup &folder : config.folderSources) {
-        if (!list.add(std::make_unique<FolderSource>(folder, cache)))
+        if (!list.add(std::make_unique<FolderSource>(folder, cache), true))
             return tl::unexpected(
                 QStringLiteral("the short name \"%1\" is used twice").arg(folder.shortName));
     }

@@ -67,10 +67,9 @@ std::optional<QString> optionAnswer(const QString &option, const DayLinks &links
     return std::nullopt;
 }
 
-Response busyResponse()
+Unavailable busy()
 {
-    return unavailableResponse(
-        {Reason::Busy, QStringLiteral("The service has too much to do just now."), 5});
+    return {Reason::Busy, QStringLiteral("The service has too much to do just now."), 5};
 }
 
 /// Runs @p work on @p lane, or at once without one; where the lane is full, says so.
@@ -79,7 +78,7 @@ void runOn(Lane *lane, const Answer &answer, std::function<void()> work)
     if (!lane)
         return work();
     if (!lane->post(std::move(work)))
-        answer(busyResponse());
+        answer(unavailableResponse(busy()));
 }
 
 /// All that makes one answer differ from another.
@@ -206,6 +205,7 @@ void Service::answerDay(const Request &request, const QByteArray &form, const An
         return answer(badRequest("The option is unknown."));
     const bool refresh = fields->value(QStringLiteral("refresh")) == u"true";
     const PictureSource *source = m_sources.find(name);
+    const int generation = m_generation; // Of now: a refresh may overtake this answer.
     describe(source, *date, refresh, [=, this](const auto &day) {
         if (refresh)
             ++m_generation;
@@ -217,7 +217,7 @@ void Service::answerDay(const Request &request, const QByteArray &form, const An
         const QByteArray text = optionAnswer(option, links, *day, source->longName())->toUtf8();
         constexpr qint64 keptForMs = 60'000;
         if (day->isFinal && !refresh)
-            m_kept.put(keyOf(request), {text, steadyMs() + keptForMs, m_generation}, text.size());
+            m_kept.put(keyOf(request), {text, steadyMs() + keptForMs, generation}, text.size());
         answer(plainTextResponse(text));
     });
 }
@@ -280,7 +280,12 @@ void Service::describe(const PictureSource *source, QDate date, bool refresh,
         return refuse(Reason::OutOfRange, "There are no pictures before 1900.");
     if (date > latestDay(now()))
         return refuse(Reason::OutOfRange, "That day has not come yet.");
-    source->ask(date, refresh, told);
+    const auto ask = [=] { source->ask(date, refresh, told); };
+    Lane *own = m_sources.threadOf(source);
+    if (!own)
+        ask();
+    else if (!own->post(ask))
+        told(tl::unexpected(busy()));
 }
 
 QString Service::baseUrl(const Request &request) const

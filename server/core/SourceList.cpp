@@ -14,13 +14,22 @@ bool isShortName(const QString &name)
            });
 }
 
-bool SourceList::add(std::unique_ptr<PictureSource> source)
+bool SourceList::add(std::unique_ptr<PictureSource> source, bool blocks)
 {
+    constexpr std::size_t mostWaiting = 4096;
     const QString name = source->shortName();
     if (!isShortName(name) || findSlug(name.toLower()))
         return false;
+    if (blocks)
+        m_threads.emplace(source.get(), std::make_unique<Lane>(1, mostWaiting));
     m_sources.push_back(std::move(source));
     return true;
+}
+
+Lane *SourceList::threadOf(const PictureSource *source) const
+{
+    const auto at = m_threads.find(source);
+    return at == m_threads.end() ? nullptr : at->second.get();
 }
 
 const PictureSource *SourceList::find(const QString &shortName) const
