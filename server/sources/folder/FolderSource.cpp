@@ -42,7 +42,7 @@ FolderSource::FolderSource(FolderSetup setup, RenderCache &cache)
     : m_setup(std::move(setup)), m_cache(cache), m_listing(m_setup.path)
 { }
 
-tl::expected<QString, Unavailable> FolderSource::nameOn(QDate date) const
+tl::expected<FolderSource::Day, Unavailable> FolderSource::openOn(QDate date) const
 {
     const auto names = m_listing.names();
     if (names->isEmpty())
@@ -50,70 +50,65 @@ tl::expected<QString, Unavailable> FolderSource::nameOn(QDate date) const
             Unavailable{Reason::NothingThatDay, QStringLiteral("The folder holds no pictures.")});
     const qint64 day = QDate(1970, 1, 1).daysTo(date);
     const qint64 count = names->size();
-    return names->at((day % count + count) % count);
+    const QString &name = names->at((day % count + count) % count);
+    const auto file = openPlainFile(m_setup.path + u'/' + name);
+    if (!file)
+        return tl::unexpected(notAPicture());
+    return Day{name, file};
 }
 
 tl::expected<FolderSource::Facts, Unavailable> FolderSource::factsOf(const QString &name,
                                                                      QFile &file) const
 {
-    constexpr qsizetype mostFacts = 1000;
+    const QByteArray key = name.toUtf8();
     const QString revision = revisionOf(name, file);
-    {
-        const std::lock_guard lock(m_mutex);
-        const auto known = m_facts.constFind(name);
-        if (known != m_facts.constEnd() && known->revision == revision)
-            return *known;
-    }
+    if (auto known = m_facts.find(key); known && known->revision == revision)
+        return *std::move(known);
     Facts facts{revision, shownSize(file), {}};
     const qint64 pixels = qint64(facts.size.width()) * facts.size.height();
     if (!facts.size.isValid() || pixels == 0 || pixels > mostPixels || file.size() > mostBytes)
         return tl::unexpected(notAPicture());
     facts.text = readEmbeddedText(file);
-    const std::lock_guard lock(m_mutex);
-    if (m_facts.size() >= mostFacts)
-        m_facts.clear();
-    m_facts.insert(name, facts);
+    const qsizetype characters =
+        revision.size() + facts.text.title.size() + facts.text.description.size();
+    m_facts.put(key, facts, characters * qsizetype(sizeof(QChar)));
     return facts;
 }
 
 tl::expected<DayPicture, Unavailable> FolderSource::describe(QDate date) const
 {
-    const auto name = nameOn(date);
-    if (!name)
-        return tl::unexpected(name.error());
-    const auto file = openPlainFile(m_setup.path + u'/' + *name);
-    if (!file)
-        return tl::unexpected(notAPicture());
-    const auto facts = factsOf(*name, *file);
+    const auto open = openOn(date);
+    if (!open)
+        return tl::unexpected(open.error());
+    const auto &[name, file] = *open;
+    const auto facts = factsOf(name, *file);
     if (!facts)
         return tl::unexpected(facts.error());
     const QString credit = m_setup.credit.isEmpty() ? m_setup.longName : m_setup.credit;
     DayPicture day;
-    day.caption = facts->text.title.isEmpty() ? captionFromName(*name) : facts->text.title;
+    day.caption = facts->text.title.isEmpty() ? captionFromName(name) : facts->text.title;
     day.info = facts->text.description;
     day.credit =
         m_setup.licence.isEmpty() ? credit : QStringLiteral("%1, %2").arg(credit, m_setup.licence);
     day.fullSize = facts->size;
     day.fullMegabytes = static_cast<double>(file->size()) / 1e6;
-    day.fullSuffix = QLatin1StringView("original.") + QFileInfo(*name).suffix().toLower();
+    day.fullSuffix = QLatin1StringView("original.") + QFileInfo(name).suffix().toLower();
     day.isFinal = false;
     return day;
 }
 
 tl::expected<Content, Unavailable> FolderSource::picture(QDate date, PictureKind kind) const
 {
-    const auto name = nameOn(date);
-    if (!name)
-        return tl::unexpected(name.error());
-    const auto file = openPlainFile(m_setup.path + u'/' + *name);
-    if (!file)
-        return tl::unexpected(notAPicture());
+    const auto open = openOn(date);
+    if (!open)
+        return tl::unexpected(open.error());
+    QFile &file = *open->file;
     if (kind == PictureKind::Full) {
-        const QDateTime modified = file->fileTime(QFileDevice::FileModificationTime);
-        return Content{{}, file, typeOf(*name), modified};
+        const QDateTime modified = file.fileTime(QFileDevice::FileModificationTime);
+        return Content{{}, open->file, typeOf(open->name), modified};
     }
-    return m_cache.picture(cacheName(shortName(), date, kind, revisionOf(*name, *file)),
-                           [&] { return encodedJpeg(fittedPicture(*file, sizeOf(kind)), kind); });
+    return m_cache.picture(cacheName(shortName(), date, kind, revisionOf(open->name, file)),
+                           [&] { return encodedJpeg(fittedPicture(file, sizeOf(kind)), kind); });
 }
 
 } // namespace moravel::server

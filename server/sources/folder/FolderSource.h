@@ -2,6 +2,7 @@
 #pragma once
 
 #include "server/core/Config.h"
+#include "server/core/Recent.h"
 #include "server/core/RenderCache.h"
 #include "server/sources/folder/EmbeddedText.h"
 #include "server/sources/folder/FolderListing.h"
@@ -31,14 +32,19 @@ private:
         EmbeddedText text;
     };
 
-    tl::expected<QString, Unavailable> nameOn(QDate date) const;
+    struct Day
+    {
+        QString name;
+        std::shared_ptr<QFile> file; ///< Open.
+    };
+
+    tl::expected<Day, Unavailable> openOn(QDate date) const;
     tl::expected<Facts, Unavailable> factsOf(const QString &name, QFile &file) const;
 
     const FolderSetup m_setup;
     RenderCache &m_cache;
     mutable FolderListing m_listing;
-    mutable std::mutex m_mutex;
-    mutable QHash<QString, Facts> m_facts; ///< By file name.
+    mutable Recent<Facts> m_facts{qsizetype(1) << 20}; ///< By file name.
 };
 
 } // namespace moravel::server
