@@ -13,7 +13,7 @@ using Steady = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr int refreshSeconds = 60; ///< At least between two questions about one day.
-constexpr qsizetype recentBytes = 1 << 20;
+constexpr qsizetype recentBytes = 1 << 19;
 
 /// Under this day a source's silence is kept: it holds for all days.
 const QDate everyDay(1, 1, 1);
@@ -26,6 +26,25 @@ QByteArray keyOf(QDate date)
 bool isPicture(const Outcome &outcome)
 {
     return std::holds_alternative<Picture>(outcome);
+}
+
+/// Whether it is the source itself that is down, not just one of its pictures.
+bool isDown(const Outcome &outcome)
+{
+    const auto *down = std::get_if<SourceDown>(&outcome);
+    return down && !down->thatDayOnly;
+}
+
+/// What the texts of an answer take in memory.
+qsizetype bytesOf(const Outcome &outcome)
+{
+    constexpr qsizetype bookkeeping = 600;
+    const auto *it = std::get_if<Picture>(&outcome);
+    if (!it)
+        return bookkeeping;
+    const qsizetype characters = it->page.size() + it->caption.size() + it->info.size()
+        + it->credit.size() + it->thumb.size() + it->normal.size() + it->full.size();
+    return bookkeeping + characters * qsizetype(sizeof(QChar));
 }
 
 } // namespace
@@ -117,25 +136,30 @@ bool AnswerBook::pause(milliseconds time)
 }
 
 /// A store in trouble gets a little time: it may just be restarting, and asking sources again for
-/// all that it knows would be worse.
+/// all that it knows would be worse. Waits a moment; false when it has failed for too long.
+bool AnswerBook::mayRecover(milliseconds patience, const QString &why)
+{
+    constexpr milliseconds between(100);
+    m_setup.metrics.add("store_faults_total");
+    const auto now = Steady::now();
+    Steady::time_point since;
+    if (m_failingSince.compare_exchange_strong(since, now)) {
+        since = now;
+        qCInfo(serverLog) << "the answer store fails:" << why;
+    }
+    return now - since < patience && pause(between);
+}
+
 std::optional<StoredAnswer> AnswerBook::stored(QDate date)
 {
-    constexpr Steady::duration patience = std::chrono::seconds(6);
-    constexpr milliseconds between(100);
+    constexpr std::chrono::seconds patience(6);
     while (true) {
         const auto found = m_setup.store.find(m_source, date);
-        const auto now = Steady::now();
         if (found) {
             m_failingSince = Steady::time_point();
             return *found;
         }
-        m_setup.metrics.add("store_faults_total");
-        Steady::time_point since = m_failingSince;
-        if (since == Steady::time_point()) {
-            m_failingSince = since = now;
-            qCInfo(serverLog) << "the answer store fails:" << found.error();
-        }
-        if (now - since >= patience || !pause(between))
+        if (!mayRecover(patience, found.error()))
             return std::nullopt;
     }
 }
@@ -144,7 +168,7 @@ std::optional<StoredAnswer> AnswerBook::stored(QDate date)
 std::optional<StoredAnswer> AnswerBook::quiet()
 {
     auto answer = m_recent.find(keyOf(everyDay));
-    if (!answer)
+    if (!answer || !answer->holdsAt(m_setup.now())) // Another process may know better.
         answer = stored(everyDay);
     return answer && answer->holdsAt(m_setup.now()) ? answer : std::nullopt;
 }
@@ -207,10 +231,8 @@ void AnswerBook::fetch(QDate date, bool refresh, const std::optional<StoredAnswe
                         + kindName(answer.outcome) + "\"}");
     finish(date, answer);
     keep(date, answer);
-    const bool forAllDays = std::holds_alternative<RateLimited>(answer.outcome)
-        || std::holds_alternative<SourceDown>(answer.outcome);
-    if (forAllDays) {
-        m_recent.put(keyOf(everyDay), answer, 0);
+    if (std::holds_alternative<RateLimited>(answer.outcome) || isDown(answer.outcome)) {
+        m_recent.put(keyOf(everyDay), answer, bytesOf(answer.outcome));
         keep(everyDay, answer);
     }
     m_setup.store.release(m_source, date);
@@ -225,10 +247,9 @@ StoredAnswer AnswerBook::askSource(QDate date, const std::optional<StoredAnswer>
     } catch (const std::exception &e) {
         qCInfo(serverLog) << m_source << date << "cannot be read:" << e.what();
     }
-    const bool down = std::holds_alternative<SourceDown>(outcome);
-    m_failures = down ? m_failures + 1 : 0;
-    if (down)
-        qCInfo(serverLog) << m_source << date << std::get<SourceDown>(outcome).why;
+    m_failures = isDown(outcome) ? m_failures + 1 : 0;
+    if (const auto *down = std::get_if<SourceDown>(&outcome))
+        qCInfo(serverLog) << m_source << date << down->why;
     const QDateTime now = m_setup.now();
     const QDateTime expires = expiryOf(outcome, now, m_failures, m_setup.chance());
     // A picture is not forgotten because its source could not repeat it.
@@ -239,22 +260,19 @@ StoredAnswer AnswerBook::askSource(QDate date, const std::optional<StoredAnswer>
 
 void AnswerBook::keep(QDate date, const StoredAnswer &answer)
 {
-    constexpr int tries = 40;
-    constexpr milliseconds between(250);
-    for (int i = 0; i < tries; ++i) {
-        if (m_setup.store.put(m_source, date, answer))
+    constexpr std::chrono::seconds patience(10);
+    do {
+        if (m_setup.store.put(m_source, date, answer)) {
+            m_failingSince = Steady::time_point();
             return;
-        m_setup.metrics.add("store_faults_total");
-        if (!pause(between))
-            break;
-    }
+        }
+    } while (mayRecover(patience));
     qCWarning(serverLog) << "an answer could not be stored:" << m_source << date;
 }
 
 void AnswerBook::finish(QDate date, const StoredAnswer &answer)
 {
-    constexpr qsizetype usualBytes = 1500;
-    m_recent.put(keyOf(date), answer, usualBytes);
+    m_recent.put(keyOf(date), answer, bytesOf(answer.outcome));
     tellAll(date, answer.outcome);
 }
 

@@ -58,6 +58,7 @@ private:
     void fetch(QDate date, bool refresh, const std::optional<StoredAnswer> &before);
     bool claim(QDate date, std::chrono::steady_clock::time_point deadline, bool refresh);
     StoredAnswer askSource(QDate date, const std::optional<StoredAnswer> &before);
+    bool mayRecover(std::chrono::milliseconds patience, const QString &why = {});
     std::optional<StoredAnswer> stored(QDate date);
     std::optional<StoredAnswer> quiet();
     void keep(QDate date, const StoredAnswer &answer);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "server/network/Asking.h"
 
+#include "server/core/Links.h"
+
 #include <QBuffer>
 #include <QImageReader>
 
@@ -37,8 +39,10 @@ tl::expected<nlohmann::json, Outcome> Asking::json(const QUrl &url, int reuseSec
     return json;
 }
 
-std::optional<PictureFacts> Asking::probe(const QUrl &url)
+tl::expected<PictureFacts, Outcome> Asking::probe(const QUrl &url)
 {
+    if (webAddress(url).isEmpty())
+        return tl::unexpected(Outcome(NotAPicture{}));
     constexpr qint64 beginning = 131'072; // Colour profiles and embedded thumbnails come first.
     FetchRequest request;
     request.url = url;
@@ -47,7 +51,17 @@ std::optional<PictureFacts> Asking::probe(const QUrl &url)
     request.mayBePrivate = m_setup.mayBePrivate;
     request.deadline = m_setup.deadline;
     const auto answer = m_setup.http.get(request);
-    return answer ? pictureFacts(*answer) : std::nullopt;
+    if (!answer)
+        return tl::unexpected(Outcome(SourceDown{answer.error(), true}));
+    if (const auto facts = pictureFacts(*answer))
+        return *facts;
+    if (answer->status == 429)
+        return tl::unexpected(outcomeOf(*answer, m_setup.now));
+    constexpr int firstServerFault = 500;
+    if (answer->status >= firstServerFault)
+        return tl::unexpected(Outcome(SourceDown{
+            QStringLiteral("its picture is answered with status %1").arg(answer->status), true}));
+    return tl::unexpected(Outcome(NotAPicture{}));
 }
 
 Outcome outcomeOf(const Fetched &answer, const QDateTime &now)

@@ -38,9 +38,9 @@ public:
     tl::expected<nlohmann::json, Outcome> json(const QUrl &url, int reuseSeconds = 0,
                                                std::vector<QByteArray> headers = {});
 
-    /// What the file at an address tells of itself; none when it is not there or no picture that
-    /// can be shown, whatever it is called.
-    std::optional<PictureFacts> probe(const QUrl &url);
+    /// What the file at an address tells of itself; NotAPicture when it is not there or nothing that
+    /// can be shown, whatever it is called; else why that cannot be seen now.
+    tl::expected<PictureFacts, Outcome> probe(const QUrl &url);
 
 private:
     Setup m_setup;

@@ -105,11 +105,13 @@ Unavailable whyNot(const Outcome &outcome, const QString &source, const QDateTim
 Outcome checked(Outcome outcome)
 {
     constexpr qsizetype longestText = 4000;
+    constexpr qsizetype longestLine = 300;
     auto *picture = std::get_if<Picture>(&outcome);
     if (!picture)
         return outcome;
-    for (QString *text : {&picture->caption, &picture->info, &picture->credit})
-        *text = oneLine(*text, longestText);
+    picture->info = oneLine(picture->info, longestText);
+    for (QString *text : {&picture->caption, &picture->credit})
+        *text = oneLine(*text, longestLine);
     for (QString *link : {&picture->page, &picture->thumb, &picture->normal, &picture->full})
         *link = webAddress(QUrl(*link));
     if (picture->normal.isEmpty())
@@ -197,7 +199,9 @@ QDateTime expiryOf(const Outcome &outcome, const QDateTime &now, int failures, d
                    [&](const NothingThatDay &) { return after(day / 4); },
                    [&](const NotYetPublished &) { return after(10 * minute); },
                    [&](const RateLimited &it) { return std::max(it.until, now.addSecs(1)); },
-                   [&](const SourceDown &) {
+                   [&](const SourceDown &it) {
+                       if (it.thatDayOnly)
+                           return after(10 * minute);
                        const int doublings = std::clamp(failures - 1, 0, 10);
                        return after(std::min(minute << doublings, longestBackOff));
                    },

@@ -45,6 +45,7 @@ struct RateLimited
 struct SourceDown
 {
     QString why; ///< "it answered with status 500"
+    bool thatDayOnly = false; ///< Only the picture is out of reach; the source can tell of others.
 };
 
 struct Retired

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "server/network/PoliteHttp.h"
 
-#include <algorithm>
-
 namespace moravel::server {
 
 tl::expected<Fetched, QString> PoliteHttp::get(const FetchRequest &request)
@@ -12,7 +10,8 @@ tl::expected<Fetched, QString> PoliteHttp::get(const FetchRequest &request)
     if (!turn)
         return tl::unexpected(QStringLiteral("it is still busy with an earlier question"));
     const bool keeps = !request.beginningOnly && !request.isPicture;
-    const auto before = !keeps ? nullptr : known(request.url);
+    const QByteArray key = request.url.toEncoded();
+    const auto before = keeps ? m_known.find(key).value_or(nullptr) : nullptr;
     const auto now = std::chrono::steady_clock::now();
     if (before && now - before->at < std::chrono::seconds(request.reuseSeconds))
         return before->answer;
@@ -25,7 +24,7 @@ tl::expected<Fetched, QString> PoliteHttp::get(const FetchRequest &request)
     if (answer && answer->status == 304 && before)
         answer = before->answer;
     if (answer && answer->status == 200 && keeps)
-        remember(request.url, *answer);
+        m_known.put(key, std::make_shared<const Known>(Known{*answer, now}), answer->body.size());
     return answer;
 }
 
@@ -39,28 +38,6 @@ std::shared_ptr<std::timed_mutex> PoliteHttp::gateOf(const QString &host)
     if (!gate)
         gate = std::make_shared<std::timed_mutex>();
     return gate;
-}
-
-std::shared_ptr<const PoliteHttp::Known> PoliteHttp::known(const QUrl &url)
-{
-    const std::lock_guard lock(m_mutex);
-    const auto at = std::find_if(m_known.begin(), m_known.end(),
-                                 [&](const auto &entry) { return entry->url == url; });
-    return at == m_known.end() ? nullptr : *at;
-}
-
-void PoliteHttp::remember(const QUrl &url, const Fetched &answer)
-{
-    constexpr std::size_t most = 12;
-    constexpr qsizetype mostBytes = 1 << 19;
-    const std::lock_guard lock(m_mutex);
-    m_known.remove_if([&](const auto &entry) { return entry->url == url; });
-    if (answer.body.size() > mostBytes)
-        return;
-    m_known.push_front(
-        std::make_shared<Known>(Known{url, answer, std::chrono::steady_clock::now()}));
-    if (m_known.size() > most)
-        m_known.pop_back();
 }
 
 } // namespace moravel::server

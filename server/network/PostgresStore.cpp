@@ -71,8 +71,11 @@ PostgresStore::PostgresStore(const QString &conninfo) : m_conninfo(conninfo.toUt
 
 PostgresStore::~PostgresStore() = default;
 
-PostgresStore::Session PostgresStore::open() const
+PostgresStore::Session PostgresStore::open()
 {
+    using Clock = std::chrono::steady_clock;
+    if (Clock::now() < m_awayUntil.load())
+        return nullptr;
     // A database that hangs must not hold a request longer than its deadline.
     constexpr std::array<const char *, 6> keys{"dbname",  "connect_timeout",  "tcp_user_timeout",
                                                "options", "application_name", nullptr};
@@ -84,8 +87,11 @@ PostgresStore::Session PostgresStore::open() const
         "moravel-service",
         nullptr};
     Session session(PQconnectdbParams(keys.data(), values.data(), 1));
-    if (PQstatus(session.get()) != CONNECTION_OK)
+    if (PQstatus(session.get()) != CONNECTION_OK) {
+        m_awayUntil = Clock::now() + std::chrono::seconds(1);
+        qCInfo(serverLog) << "the database:" << PQerrorMessage(session.get());
         return nullptr;
+    }
     // Several processes that begin at once may collide here; the table is there for the later one.
     const Result made(PQexec(session.get(), preparation));
     return session;

@@ -3,6 +3,8 @@
 
 #include "server/network/AnswerStore.h"
 
+#include <atomic>
+#include <chrono>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -39,10 +41,12 @@ private:
 
     Session take(); ///< A working session; null when the database is away.
     void giveBack(Session session);
-    Session open() const;
+    Session open();
     void forgetIdle(); ///< They are as broken as the one that just failed.
 
     const QByteArray m_conninfo;
+    /// Until then the database is taken to be away: one that hangs costs seconds each time.
+    std::atomic<std::chrono::steady_clock::time_point> m_awayUntil{};
     std::mutex m_mutex;
     std::vector<Session> m_idle;
     std::map<Key, Session> m_claims; ///< The sessions that hold the locks.

@@ -48,32 +48,39 @@ QDateTime momentOf(qint64 ms)
 
 } // namespace
 
-tl::expected<std::unique_ptr<SqliteStore>, QString> SqliteStore::tryOpen(const QString &path)
+/// @p code says of what kind the fault is.
+tl::expected<std::unique_ptr<SqliteStore>, QString> SqliteStore::tryOpen(const QString &path,
+                                                                         int &code)
 {
     constexpr int patienceMs = 2000;
     sqlite3 *database = nullptr;
-    const int opened = sqlite3_open_v2(QFile::encodeName(path).constData(), &database,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+    code = sqlite3_open_v2(QFile::encodeName(path).constData(), &database,
+                           SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
     std::unique_ptr<SqliteStore> store(new SqliteStore(database));
-    if (opened == SQLITE_OK) {
+    if (code == SQLITE_OK) {
         sqlite3_busy_timeout(database, patienceMs);
-        if (sqlite3_exec(database, preparation, nullptr, nullptr, nullptr) == SQLITE_OK)
-            return store;
+        code = sqlite3_exec(database, preparation, nullptr, nullptr, nullptr);
     }
+    if (code == SQLITE_OK)
+        return store;
     return tl::unexpected(QString::fromUtf8(sqlite3_errmsg(database)));
 }
 
 tl::expected<std::unique_ptr<SqliteStore>, QString> SqliteStore::open(const QString &path)
 {
     QDir().mkpath(QFileInfo(path).path());
-    auto store = tryOpen(path);
-    if (store || !QFileInfo(path).isFile())
+    int code = SQLITE_OK;
+    auto store = tryOpen(path, code);
+    if (code != SQLITE_NOTADB && code != SQLITE_CORRUPT)
         return store;
     // What it held can be asked for again; keeping the service down for it helps nobody.
     qCWarning(serverLog) << "damaged answer store put aside:" << path << store.error();
-    QFile::remove(path + QLatin1StringView(".damaged"));
-    QFile::rename(path, path + QLatin1StringView(".damaged"));
-    return tryOpen(path);
+    for (const char *part : {"", "-wal", "-shm"}) {
+        const QString name = path + QLatin1StringView(part);
+        QFile::remove(name + QLatin1StringView(".damaged"));
+        QFile::rename(name, name + QLatin1StringView(".damaged"));
+    }
+    return tryOpen(path, code);
 }
 
 SqliteStore::~SqliteStore()

@@ -29,7 +29,8 @@ public:
 private:
     explicit SqliteStore(sqlite3 *database) : m_database(database) { }
 
-    static tl::expected<std::unique_ptr<SqliteStore>, QString> tryOpen(const QString &path);
+    static tl::expected<std::unique_ptr<SqliteStore>, QString> tryOpen(const QString &path,
+                                                                       int &code);
 
     sqlite3 *const m_database;
     std::mutex m_mutex;

@@ -163,6 +163,12 @@ TEST_F(BookFixture, ASilentSourceIsLeftAloneForAllDays)
         library.seconds = silence;
         EXPECT_EQ(ask(day.addDays(-3)), "Star");
     }
+    // One picture out of reach says nothing of other days.
+    adapter.says = [&](QDate it) -> Outcome {
+        return it == day.addDays(-20) ? Outcome(SourceDown{{}, true}) : FakeAdapter::somePicture();
+    };
+    EXPECT_EQ(ask(day.addDays(-20)), "down");
+    EXPECT_EQ(ask(day.addDays(-21)), "Star");
 }
 
 TEST_F(BookFixture, WhoWaitedTooLongIsToldAndTheNextGetsTheAnswer)

@@ -70,21 +70,19 @@ private:
         std::vector<QUrl> wanted{normal};
         if (const QString large = textAt(json, {"hdurl"}); !large.isEmpty())
             wanted.insert(wanted.begin(), page.resolved(QUrl(large)));
-        const auto best = firstPicture(asking, wanted);
+        const auto best =
+            firstPicture(asking, wanted, QStringLiteral("something that is not a picture file"));
         if (!best)
-            return NotAPicture{QStringLiteral("something that is not a picture file")};
+            return best.error();
         const QString owner = plainText(textAt(json, {"copyright"}));
         const QString credit = owner.isEmpty() ? QStringLiteral("NASA, public domain.")
                                                : QStringLiteral("© %1.").arg(owner);
-        return Picture{page.toString(),
-                       plainText(textAt(json, {"title"})),
-                       plainText(textAt(json, {"explanation"})),
-                       QStringLiteral("Astronomy Picture of the Day: ") + credit,
-                       normal.toString(QUrl::FullyEncoded),
-                       normal.toString(QUrl::FullyEncoded),
-                       best->url.toString(QUrl::FullyEncoded),
-                       best->facts.size,
-                       best->facts.megabytes};
+        Picture picture;
+        picture.page = page.toString();
+        picture.caption = plainText(textAt(json, {"title"}));
+        picture.info = plainText(textAt(json, {"explanation"}));
+        picture.credit = QStringLiteral("Astronomy Picture of the Day: ") + credit;
+        return withLinks(picture, normal, *best);
     }
 
     const QUrl m_address;

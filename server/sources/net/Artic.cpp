@@ -6,6 +6,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace moravel::server {
 
 namespace {
@@ -49,7 +51,7 @@ private:
     /// All pictures of this source are called default.jpg: they go out under names of our own.
     static Outcome pictureOf(const nlohmann::json &json, int number)
     {
-        constexpr int normalWidth = 1686; // Widths that its caches hold.
+        constexpr int largestWidth = 1686; // Its caches hold this one.
         QString server = textAt(json, {"config", "iiif_url"});
         if (!server.startsWith(u"http"))
             server = QStringLiteral("https://www.artic.edu/iiif/2");
@@ -69,16 +71,17 @@ private:
         const QString from = text("credit_line");
         const QSize size(integerAt(data, {"thumbnail", "width"}),
                          integerAt(data, {"thumbnail", "height"}));
+        // It does not enlarge.
+        const int width = size.isEmpty() ? largestWidth : std::min(size.width(), largestWidth);
         return Picture{QStringLiteral("https://www.artic.edu/artworks/%1").arg(number),
                        text("title"),
                        about.join(QLatin1StringView(". ")),
                        QStringLiteral("Art Institute of Chicago, %1CC0; description CC BY 4.0.")
                            .arg(from.isEmpty() ? QString() : from + QLatin1StringView(", ")),
-                       link(400),
-                       link(normalWidth),
-                       link(normalWidth),
-                       size.isEmpty() ? QSize()
-                                      : size.scaled(normalWidth, 1 << 20, Qt::KeepAspectRatio),
+                       link(std::min(width, 400)),
+                       link(width),
+                       link(width),
+                       size.isEmpty() ? QSize() : size.scaled(width, 1 << 20, Qt::KeepAspectRatio),
                        0};
     }
 

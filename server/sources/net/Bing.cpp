@@ -58,9 +58,10 @@ private:
         // Other sizes carry a watermark.
         const QUrl normal = below(m_address, base + QLatin1StringView("_1920x1080.jpg"));
         const auto best =
-            firstPicture(asking, {below(m_address, base + QLatin1StringView("_UHD.jpg")), normal});
+            firstPicture(asking, {below(m_address, base + QLatin1StringView("_UHD.jpg")), normal},
+                         QStringLiteral("something that is not a picture file"));
         if (!best)
-            return NotAPicture{QStringLiteral("something that is not a picture file")};
+            return best.error();
         // "Harbour at dusk (© Somebody/Agency)"
         const QString words = plainText(textAt(image, {"copyright"}));
         const qsizetype owner = words.lastIndexOf(QStringLiteral("(©"));
@@ -71,16 +72,13 @@ private:
                            .toString(QUrl::FullyEncoded);
         if (!page.startsWith(u"http"))
             page = m_address.toString();
-        return Picture{page,
-                       title.isEmpty() || title == u"Info" ? text : title,
-                       text,
-                       (owner < 0 ? words : words.mid(owner + 1).remove(u')'))
-                           + QStringLiteral(". Bing; for use as wallpaper only."),
-                       normal.toString(QUrl::FullyEncoded),
-                       normal.toString(QUrl::FullyEncoded),
-                       best->url.toString(QUrl::FullyEncoded),
-                       best->facts.size,
-                       best->facts.megabytes};
+        Picture picture;
+        picture.page = page;
+        picture.caption = title.isEmpty() || title == u"Info" ? text : title;
+        picture.info = text;
+        picture.credit = (owner < 0 ? words : words.mid(owner + 1).remove(u')'))
+            + QStringLiteral(". Bing; for use as wallpaper only.");
+        return withLinks(picture, normal, *best);
     }
 
     const QUrl m_address;

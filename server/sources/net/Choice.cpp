@@ -5,13 +5,27 @@
 
 namespace moravel::server {
 
-std::optional<Choice> firstPicture(Asking &asking, const std::vector<QUrl> &urls)
+tl::expected<Choice, Outcome> firstPicture(Asking &asking, const std::vector<QUrl> &urls,
+                                           const QString &otherwise)
 {
+    Outcome why = NotAPicture{otherwise};
     for (const QUrl &url : urls) {
-        if (const auto facts = asking.probe(url))
+        const auto facts = asking.probe(url);
+        if (facts)
             return Choice{url, *facts};
+        if (!std::holds_alternative<NotAPicture>(facts.error()))
+            why = facts.error();
     }
-    return std::nullopt;
+    return tl::unexpected(why);
+}
+
+Picture withLinks(Picture picture, const QUrl &smaller, const Choice &full)
+{
+    picture.thumb = picture.normal = smaller.toString(QUrl::FullyEncoded);
+    picture.full = full.url.toString(QUrl::FullyEncoded);
+    picture.fullSize = full.facts.size;
+    picture.fullMegabytes = full.facts.megabytes;
+    return picture;
 }
 
 int chosenNumber(const char *source, QDate date, int attempt, int most)

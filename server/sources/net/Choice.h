@@ -5,15 +5,20 @@
 
 namespace moravel::server {
 
-/// Addresses of one picture from the most to the least wanted; the first that holds a picture is
-/// taken, with its facts.
+/// An address that holds a picture, and the facts of that.
 struct Choice
 {
     QUrl url;
     PictureFacts facts;
 };
 
-std::optional<Choice> firstPicture(Asking &asking, const std::vector<QUrl> &urls);
+/// The first of some addresses, from the most to the least wanted, that holds a picture; else why
+/// there is none: @p otherwise they hold "something else".
+tl::expected<Choice, Outcome> firstPicture(Asking &asking, const std::vector<QUrl> &urls,
+                                           const QString &otherwise);
+
+/// Adds the links of a picture that has one smaller size.
+Picture withLinks(Picture picture, const QUrl &smaller, const Choice &full);
 
 /// A number for a source that has no days of its own, the same for the same date and try on every
 /// machine, from 1 to @p most.

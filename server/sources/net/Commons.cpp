@@ -7,16 +7,17 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 
 namespace moravel::server {
 
 namespace {
 
 /// Other widths are answered with status 429.
+constexpr std::array widths{3840, 1920, 1280, 960, 500, 330, 250, 120};
 constexpr int thumbWidth = 500;
 constexpr int askedWidth = 960;
 constexpr int normalWidth = 1920;
-constexpr int largeWidth = 3840;
 
 class Commons : public Adapter
 {
@@ -62,7 +63,10 @@ private:
         Picture picture;
         picture.page = textAt(info, {"descriptionurl"});
         picture.info = plainText(textAt(info, {"extmetadata", "ImageDescription", "value"}));
-        picture.caption = captionOf(title, asking);
+        const auto caption = captionOf(title, asking);
+        if (!caption)
+            return caption.error();
+        picture.caption = *caption;
         if (picture.caption.isEmpty())
             picture.caption = nameOf(textAt(page, {"title"}));
         if (picture.info.isEmpty())
@@ -75,12 +79,14 @@ private:
     }
 
     /// The words that were written for the day; empty when there are none in English.
-    QString captionOf(const QString &title, Asking &asking) const
+    tl::expected<QString, Outcome> captionOf(const QString &title, Asking &asking) const
     {
         const auto json = asking.json(
             below(m_address,
                   QStringLiteral("/w/api.php?action=parse&format=json&prop=text&page=%1%20(en)")
                       .arg(title)));
+        if (!json && !isMissing(json.error()))
+            return tl::unexpected(json.error());
         return json ? plainText(textAt(*json, {"parse", "text", "*"})) : QString();
     }
 
@@ -109,24 +115,27 @@ private:
     {
         constexpr qint64 mostPixels = 50'000'000;
         const QString original = textAt(info, {"url"});
-        const QString reduced = textAt(info, {"thumburl"});
         const QSize size(integerAt(info, {"width"}), integerAt(info, {"height"}));
-        static const QRegularExpression widthPart(QStringLiteral("(?<=[/-])960px-"));
-        const auto ofWidth = [&](int width) {
-            if (size.width() <= width && type != u"image/tiff")
-                return original;
-            QString link = reduced;
-            return link.replace(widthPart, QStringLiteral("%1px-").arg(width));
-        };
-        picture.thumb = ofWidth(thumbWidth);
-        picture.normal = ofWidth(normalWidth);
         const bool moderate = qint64(size.width()) * size.height() <= mostPixels;
-        picture.full = moderate && type != u"image/tiff" ? original : ofWidth(largeWidth);
-        picture.fullSize = size;
+        const bool shown = moderate && type != u"image/tiff";
+        static const QRegularExpression widthPart(QStringLiteral("(?<=[/-])960px-"));
+        const auto put = [&](QString &link, int most) {
+            // Nothing is enlarged there.
+            const auto width = std::find_if(widths.begin(), widths.end(), [&](int it) {
+                return it <= most && it < size.width();
+            });
+            link = original;
+            if ((shown && size.width() <= most) || width == widths.end())
+                return size;
+            link = textAt(info, {"thumburl"});
+            link.replace(widthPart, QStringLiteral("%1px-").arg(*width));
+            return size.scaled(*width, 1 << 20, Qt::KeepAspectRatio);
+        };
+        put(picture.thumb, thumbWidth);
+        put(picture.normal, normalWidth);
+        picture.fullSize = put(picture.full, shown ? size.width() : widths.front());
         if (picture.full == original)
             picture.fullMegabytes = numberAt(info, {"size"}) / 1e6;
-        else
-            picture.fullSize = size.scaled(largeWidth, size.height(), Qt::KeepAspectRatio);
     }
 
     const QUrl m_address;

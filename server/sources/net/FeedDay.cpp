@@ -29,15 +29,15 @@ tl::expected<FeedDay, Outcome> feedDay(Asking &asking, const QUrl &address, QDat
 Outcome feedPicture(Asking &asking, const FeedDay &day, const std::vector<QUrl> &wanted,
                     const QString &credit)
 {
-    const auto best = firstPicture(asking, wanted);
+    const auto best = firstPicture(asking, wanted, QStringLiteral("something without a picture"));
     if (!best)
-        return NotAPicture{QStringLiteral("something without a picture")};
-    const QString address = best->url.toString(QUrl::FullyEncoded);
-    const QString page = day.item.link.scheme().startsWith(u"http")
-        ? day.item.link.toString(QUrl::FullyEncoded)
-        : address;
-    return Picture{page,    day.item.title,   day.item.text,        credit, address, address,
-                   address, best->facts.size, best->facts.megabytes};
+        return best.error();
+    Picture picture;
+    picture.page = day.item.link.toString(QUrl::FullyEncoded);
+    picture.caption = day.item.title;
+    picture.info = day.item.text;
+    picture.credit = credit;
+    return withLinks(picture, best->url, *best);
 }
 
 } // namespace moravel::server

@@ -35,19 +35,18 @@ public:
             const QUrl picture(textAt(*json, {"primaryImage"}));
             if (!free.is_boolean() || !free.get<bool>() || picture.isEmpty())
                 continue;
-            if (const auto facts = asking.probe(picture))
-                return pictureOf(*json, picture, *facts);
+            const auto best = firstPicture(asking, {picture}, {});
+            if (best)
+                return pictureOf(*json, *best);
+            if (!std::holds_alternative<NotAPicture>(best.error()))
+                return best.error();
         }
         return NothingThatDay{QStringLiteral("None of the day's numbers has a free picture.")};
     }
 
 private:
-    static Outcome pictureOf(const nlohmann::json &json, const QUrl &url, const PictureFacts &facts)
+    static Outcome pictureOf(const nlohmann::json &json, const Choice &best)
     {
-        const QString full = url.toString(QUrl::FullyEncoded);
-        QString small = QUrl(textAt(json, {"primaryImageSmall"})).toString(QUrl::FullyEncoded);
-        if (small.isEmpty())
-            small = full;
         const auto text = [&](const char *key) { return plainText(textAt(json, {key})); };
         QStringList about{text("artistDisplayName"), text("objectDate"), text("medium")};
         about.removeAll(QString());
@@ -56,16 +55,15 @@ private:
         if (!page.startsWith(u"http"))
             page = QStringLiteral("https://www.metmuseum.org/");
         const QString from = text("creditLine");
-        return Picture{page,
-                       title.isEmpty() ? text("objectName") : title,
-                       about.join(QLatin1StringView(", ")),
-                       QStringLiteral("The Metropolitan Museum of Art, %1CC0.")
-                           .arg(from.isEmpty() ? QString() : from + QLatin1StringView(", ")),
-                       small,
-                       full,
-                       full,
-                       facts.size,
-                       facts.megabytes};
+        Picture picture;
+        picture.page = page;
+        picture.caption = title.isEmpty() ? text("objectName") : title;
+        picture.info = about.join(QLatin1StringView(", "));
+        picture.credit = QStringLiteral("The Metropolitan Museum of Art, %1CC0.")
+                             .arg(from.isEmpty() ? QString() : from + QLatin1StringView(", "));
+        picture = withLinks(picture, best.url, best);
+        picture.thumb = textAt(json, {"primaryImageSmall"}); // Too small for more.
+        return picture;
     }
 
     const QUrl m_address;
