@@ -23,6 +23,13 @@ QSize shownSize(QIODevice &file)
                                                                              : size;
 }
 
+QSize sizeWithin(QSize size, QSize box)
+{
+    if (size.isEmpty() || (size.width() <= box.width() && size.height() <= box.height()))
+        return size;
+    return size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
 QImage fittedPicture(QIODevice &file, QSize box)
 {
     if (!isRaster(file))
@@ -38,8 +45,8 @@ QImage fittedPicture(QIODevice &file, QSize box)
         return {};
     if (reader.transformation() & QImageIOHandler::TransformationRotate90)
         box.transpose();
-    if (size.width() > box.width() || size.height() > box.height())
-        reader.setScaledSize(size.scaled(box, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    if (const QSize fitted = sizeWithin(size, box); fitted != size)
+        reader.setScaledSize(fitted);
     QImage image = reader.read();
     if (!image.hasAlphaChannel())
         return image;

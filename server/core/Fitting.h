@@ -14,6 +14,9 @@ bool isRaster(QIODevice &file);
 /// none.
 QSize shownSize(QIODevice &file);
 
+/// The size of a picture of @p size within @p box, never enlarged.
+QSize sizeWithin(QSize size, QSize box);
+
 /// Decodes a picture into at most @p box, never enlarging it, on white where it is transparent; null
 /// when it does not decode or would take too much memory.
 QImage fittedPicture(QIODevice &file, QSize box);

@@ -15,8 +15,10 @@ namespace moravel::server {
 
 namespace {
 
-constexpr int pictureThreads = 2;
-constexpr std::size_t mostWaiting = 32;
+/// One picture is fetched at a time, some wait for it, and those in the cache wait for neither.
+constexpr RenderCache::Limits limits{.renders = 1, .waiting = 5};
+constexpr int pictureThreads = 8;
+constexpr std::size_t mostWaiting = 64;
 
 QString directLink(const QString &address)
 {
@@ -51,7 +53,7 @@ RemoteSource::RemoteSource(RemoteSetup setup, std::unique_ptr<Adapter> adapter,
     , m_adapter(std::move(adapter))
     , m_bookSetup(book)
     , m_book(m_setup.shortName, *m_adapter, m_setup.mayBePrivate, book)
-    , m_cache(std::move(folder), {.renders = pictureThreads, .waiting = pictureThreads})
+    , m_cache(std::move(folder), limits)
     , m_pictureLane(pictureThreads, mostWaiting)
 { }
 
@@ -99,12 +101,12 @@ DayPicture RemoteSource::dayOf(const Picture &picture) const
     day.info = picture.info;
     day.credit = picture.credit;
     day.fullSuffix = QStringLiteral("full.jpg");
-    day.fullSize = picture.fullSize;
+    day.fullSize = picture.fullSize.expandedTo(QSize(0, 0));
     day.fullMegabytes =
-        picture.fullMegabytes > 0 ? picture.fullMegabytes : estimatedMegabytes(picture.fullSize);
+        picture.fullMegabytes > 0 ? picture.fullMegabytes : estimatedMegabytes(day.fullSize);
     day.elsewhere.page = picture.page;
     if (m_setup.proxy) {
-        day.fullSize = day.fullSize.boundedTo(m_setup.sizes.full);
+        day.fullSize = sizeWithin(day.fullSize, m_setup.sizes.full);
         day.fullMegabytes = estimatedMegabytes(day.fullSize);
         return day;
     }
@@ -148,7 +150,7 @@ tl::expected<Content, Unavailable> RemoteSource::picture(QDate date, PictureKind
 QByteArray RemoteSource::fetchedAndFitted(const QUrl &url, PictureKind kind) const
 {
     constexpr auto patience = std::chrono::seconds(120);
-    constexpr qint64 mostBytes = qint64(96) << 20;
+    constexpr qint64 mostBytes = qint64(64) << 20;
     FetchRequest request;
     request.url = url;
     request.isPicture = true;

@@ -125,6 +125,7 @@ TEST_F(RemoteFixture, ProxiedPicturesAreFittedKeptAndServedInRanges)
     upstream.set(
         {"/a_large_picture.jpg", largeJpeg({12'000, 9'000}), 200, "Content-Type: image/jpeg"});
     EXPECT_FALSE(day("all").contains(upstream.base()));
+    EXPECT_EQ(day("all").split('\n')[5], "3840,1920,1.84");
     const QByteArray target = "/potd/pictures/far-20240114-1920x1080.jpg";
     for (int i = 0; i < 2; ++i) {
         const Response response = get(target);
