@@ -146,8 +146,22 @@ void Browser::assembleBrowserData()
 void Browser::take(std::shared_ptr<const BrowserData> data)
 {
     m_browserData = std::move(data);
+    m_captions = nullptr;
     searchInBrowser();
-    m_shown = {m_browserData, *m_searchData}; // where nothing differs, the items mean the new rows
+    indexCaptions();
+}
+
+/// A search that came before waits for it.
+void Browser::indexCaptions()
+{
+    auto index = std::make_shared<CaptionIndex>();
+    m_context.ports.inBackground([index, data = m_browserData] { *index = captionIndex(*data); },
+                                 [this, index, data = m_browserData] {
+                                     if (data != m_browserData)
+                                         return;
+                                     m_captions = index;
+                                     searchInBrowser();
+                                 });
 }
 
 void Browser::searchInBrowser()
@@ -157,11 +171,16 @@ void Browser::searchInBrowser()
     BrowserWindow &window = browserWindow();
     const QString source = window.selectedSource();
     const BrowserFilter filter{window.searchText(), source, m_context.sourceNames.key(source)};
-    std::vector<int> rows = filteredRows(*m_browserData, filter);
-    const ShownRows found{m_browserData, std::move(rows)};
-    const bool same = m_searchData && found == m_shown;
+    if (filtersCaptions(filter) && !m_captions)
+        return;
+    static const CaptionIndex none;
+    ShownRows found{m_browserData,
+                    filteredRows(*m_browserData, m_captions ? *m_captions : none, filter)};
+    const bool same = m_searchData && found == m_model.rows();
     m_searchData = found.rows;
-    if (!same)
+    if (same)
+        m_model.renewRows(std::move(found));
+    else
         setupBrowsing();
 }
 
@@ -174,12 +193,7 @@ void Browser::setupBrowsing()
     BrowserWindow &window = browserWindow();
     readZoom();
     const Place before = place();
-    m_shown = {m_browserData, m_searchData.value_or(std::vector<int>())};
-    std::vector<MyImageObject> images;
-    images.reserve(m_shown.rows.size());
-    for (std::size_t i = 0; i < m_shown.rows.size(); ++i)
-        images.emplace_back(m_shown.at(i).file, m_shown.at(i).caption);
-    m_model.setImages(std::move(images));
+    m_model.setRows({m_browserData, m_searchData.value_or(std::vector<int>())});
     showImages();
     restore(before);
     if (window.searchText().isEmpty())
@@ -216,18 +230,8 @@ void Browser::showImages()
 
 void Browser::removeItems(const QList<int> &ascending)
 {
-    std::vector<MyImageObject> images;
-    ShownRows rows{m_shown.data, {}};
-    for (int i = 0; i < m_model.numberOfItemsInImageBrowser(); ++i) {
-        if (std::binary_search(ascending.begin(), ascending.end(), i))
-            continue;
-        images.push_back(m_model.itemAtIndex(i));
-        if (const auto at = static_cast<std::size_t>(i); at < m_shown.rows.size())
-            rows.rows.push_back(m_shown.rows[at]);
-    }
     const Place before = place();
-    m_shown = std::move(rows);
-    m_model.setImages(std::move(images));
+    m_model.remove(ascending);
     showImages();
     restore(before);
     const int next = std::min(ascending.value(0), m_model.numberOfItemsInImageBrowser() - 1);
@@ -265,7 +269,7 @@ void Browser::addImages(const QStringList &paths)
 Browser::Place Browser::place() const
 {
     const ImageBrowserView &view = m_window->imageBrowser();
-    Place place{m_shown, view.selectedItems(), view.currentIndex().row(), {}, {}};
+    Place place{m_model.rows(), view.selectedItems(), view.currentIndex().row(), {}, {}};
     const ImageGrid::Span visible = view.visibleItems();
     const auto add = [&](int index) {
         place.anchors.push_back(index);
@@ -290,7 +294,7 @@ void Browser::restore(const Place &place)
     indexes.push_back(place.current);
     std::sort(indexes.begin(), indexes.end());
     indexes.erase(std::unique(indexes.begin(), indexes.end()), indexes.end());
-    const std::vector<int> places = placesNow(place.before, indexes, m_shown);
+    const std::vector<int> places = placesNow(place.before, indexes, m_model.rows());
     const auto now = [&](int index) {
         const auto at = std::lower_bound(indexes.begin(), indexes.end(), index);
         return places[static_cast<std::size_t>(at - indexes.begin())];

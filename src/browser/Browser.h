@@ -64,13 +64,13 @@ private:
     void buildWindow();
     void addImages(const QStringList &paths);
     void take(std::shared_ptr<const BrowserData> data);
+    void indexCaptions();
     void showImages();
     void readZoom();
     Place place() const;
     void restore(const Place &place);
     void wantThumbnails();
     void thumbnailArrived(const QString &path);
-    const BrowserRow *rowAt(int index) const;
     QString toolTip(int index) const;
     QString accessibleText(int index) const;
 
@@ -80,9 +80,9 @@ private:
     BrowserActions m_actions;
     QStringList m_sources; ///< Of the source pop-up, as long as there is no window.
     std::shared_ptr<const BrowserData> m_browserData;
+    std::shared_ptr<const CaptionIndex> m_captions; ///< Of the data; null until they are indexed.
     std::optional<std::vector<int>>
         m_searchData; ///< Positions in the data; none before the first search.
-    ShownRows m_shown; ///< What the items were made from.
     int m_assemblies = 0;
     bool m_zoomIsRead = false;
     std::unique_ptr<BrowserWindow> m_window; ///< Goes first: it looks at the model.

@@ -44,17 +44,10 @@ void Browser::thumbnailArrived(const QString &path)
     }
 }
 
-/// Null for files that were dropped.
-const BrowserRow *Browser::rowAt(int index) const
-{
-    const auto at = static_cast<std::size_t>(index);
-    return at < m_shown.rows.size() ? &m_shown.at(at) : nullptr;
-}
-
 QString Browser::toolTip(int index) const
 {
     const QString path = m_model.itemAtIndex(index).imageRepresentation();
-    const BrowserRow *row = rowAt(index);
+    const BrowserRow *row = m_model.rowAt(index);
     QString caption = row ? row->caption : QFileInfo(path).fileName();
     if (caption.size() > LongestToolTip)
         caption = caption.left(LongestToolTip) + QChar(0x2026);
@@ -73,7 +66,7 @@ QString Browser::toolTip(int index) const
 
 QString Browser::accessibleText(int index) const
 {
-    const BrowserRow *row = rowAt(index);
+    const BrowserRow *row = m_model.rowAt(index);
     if (!row)
         return QFileInfo(m_model.itemAtIndex(index).imageRepresentation()).fileName();
     QStringList texts{row->caption, m_context.sourceNames.value(row->source, row->source),

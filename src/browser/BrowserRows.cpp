@@ -141,17 +141,33 @@ BrowserData browserData(const BrowserTexts &texts)
     RowMaker maker(texts);
     maker.readLegacy();
     maker.readRecords();
-    BrowserData data{newestFirst(maker.takeRows()), {}};
-    data.captions.reserve(data.rows.size());
-    for (const BrowserRow &row : data.rows)
-        data.captions.append(row.caption);
-    return data;
+    return {newestFirst(maker.takeRows())};
 }
 
-std::vector<int> filteredRows(const BrowserData &data, const BrowserFilter &filter)
+CaptionIndex captionIndex(const BrowserData &data)
 {
-    const bool searches = filter.text.size() >= ShortestSearch;
-    std::vector<int> rows = data.captions.captionsContaining(searches ? filter.text : QString());
+    CaptionIndex index;
+    index.reserve(data.rows.size());
+    for (const BrowserRow &row : data.rows)
+        index.append(row.caption);
+    return index;
+}
+
+bool filtersCaptions(const BrowserFilter &filter)
+{
+    return filter.text.size() >= ShortestSearch;
+}
+
+std::vector<int> filteredRows(const BrowserData &data, const CaptionIndex &captions,
+                              const BrowserFilter &filter)
+{
+    std::vector<int> rows;
+    if (filtersCaptions(filter)) {
+        rows = captions.captionsContaining(filter.text);
+    } else {
+        rows.resize(data.rows.size());
+        std::iota(rows.begin(), rows.end(), 0);
+    }
     if (filter.longSource.isEmpty())
         return rows;
     std::erase_if(rows, [&](int row) {

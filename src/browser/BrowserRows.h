@@ -27,11 +27,10 @@ struct BrowserRow
 
 size_t qHash(const BrowserRow &row, size_t seed = 0);
 
-/// All rows, newest first, and their captions ready to be searched.
+/// All rows, newest first.
 struct BrowserData
 {
     std::vector<BrowserRow> rows;
-    CaptionIndex captions;
 };
 
 /// What the rows are made of.
@@ -56,14 +55,24 @@ struct BrowserFilter
     QString shortSource;
 };
 
-/// Returns the positions of the rows that pass, ascending.
-std::vector<int> filteredRows(const BrowserData &data, const BrowserFilter &filter);
+/// Returns the captions of the rows, ready to be searched. Takes about as long as making the rows, and the
+/// first screen does not need it.
+CaptionIndex captionIndex(const BrowserData &data);
+
+/// Tells whether the text is long enough to filter.
+bool filtersCaptions(const BrowserFilter &filter);
+
+/// Returns the positions of the rows that pass, ascending. @p captions may be empty if the text does not filter.
+std::vector<int> filteredRows(const BrowserData &data, const CaptionIndex &captions,
+                              const BrowserFilter &filter);
 
 /// Some of the rows, as they are shown.
 struct ShownRows
 {
     std::shared_ptr<const BrowserData> data;
     std::vector<int> rows; ///< Positions in the data, ascending.
+
+    std::size_t size() const { return rows.size(); }
 
     const BrowserRow &at(std::size_t index) const
     {

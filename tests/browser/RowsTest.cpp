@@ -134,7 +134,8 @@ TEST_F(Filtering, filtersByTextAndBySource)
     };
 
     for (const auto &c : cases)
-        EXPECT_EQ(filteredRows(*data, c.filter), c.rows) << qPrintable(c.filter.text);
+        EXPECT_EQ(filteredRows(*data, captionIndex(*data), c.filter), c.rows)
+            << qPrintable(c.filter.text);
 }
 
 TEST_F(Filtering, rowsAreFoundAgainInTheSameAndInNewerData)

@@ -20,12 +20,16 @@
 namespace moravel {
 namespace {
 
-std::vector<MyImageObject> images(int count)
+ShownRows rows(int count)
 {
-    std::vector<MyImageObject> list;
-    for (int i = 0; i < count; ++i)
-        list.emplace_back(QStringLiteral("/p/%1.jpg").arg(i), QStringLiteral("Title %1").arg(i));
-    return list;
+    auto data = std::make_shared<BrowserData>();
+    ShownRows shown{data, {}};
+    for (int i = 0; i < count; ++i) {
+        data->rows.push_back(
+            {{}, QStringLiteral("/p/%1.jpg").arg(i), QStringLiteral("Title %1").arg(i), {}});
+        shown.rows.push_back(i);
+    }
+    return shown;
 }
 
 class ViewTest : public ::testing::Test
@@ -35,7 +39,7 @@ protected:
     {
         view.setModel(&model);
         view.resize(700, 500);
-        model.setImages(images(100));
+        model.setRows(rows(100));
         view.show();
         view.setFocus();
     }
@@ -53,9 +57,15 @@ protected:
 TEST_F(ViewTest, modelIsConsistent)
 {
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    model.append(images(3));
-    model.setImages(images(5));
-    model.setImages({});
+    model.append(
+        {MyImageObject(QStringLiteral("/q/a.jpg")), MyImageObject(QStringLiteral("/q/b.jpg"))});
+    model.remove({0, 2, 100});
+    EXPECT_EQ(model.rowCount(), 99);
+    EXPECT_EQ(model.itemAtIndex(1).imageTitle(), u"Title 3");
+    EXPECT_EQ(model.itemAtIndex(98).imageUID(), u"/q/b.jpg");
+    EXPECT_EQ(model.rowAt(98), nullptr);
+    model.setRows(rows(5));
+    model.setRows({});
     EXPECT_EQ(model.rowCount(), 0);
 }
 
