@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 
+#include "app/Logging.h"
 #include "app/RemoteActions.h"
 
 #include <QCoreApplication>
-#include <QLoggingCategory>
 
 namespace moravel {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcApp, "moravel.app")
 
 constexpr double AskAgainSeconds = 60; // for the sources, while none is known
 constexpr int DoubleClick = 2; // where the cell has counted the clicks already

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 #include "app/RemoteActions.h"
+#include "app/Translations.h"
 #include "app/Version.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
@@ -25,6 +26,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 
 #include <cstdio>
 
@@ -74,7 +76,8 @@ int exitCode(const tl::expected<void, RemoteError> &result)
 // A command for the running program, which needs no display of its own.
 int sendCommand(int argc, char **argv)
 {
-    const QCoreApplication app(argc, argv);
+    QCoreApplication app(argc, argv);
+    installTranslations(app, QLocale().uiLanguages());
     const auto options = parseOptions(QCoreApplication::arguments().mid(1));
     if (const auto code = answeredAtOnce(options))
         return *code;
@@ -177,14 +180,18 @@ int main(int argc, char **argv)
 {
     installMessageLog();
     for (int i = 1; i < argc; ++i) {
-        if (isQuestion(argv[i]))
+        if (isQuestion(argv[i])) {
+            QCoreApplication app(argc, argv);
+            installTranslations(app, QLocale().uiLanguages());
             return *answeredAtOnce(parseOptions({QString::fromLocal8Bit(argv[i])}));
+        }
     }
     for (int i = 1; i < argc; ++i) {
         if (QByteArrayView(argv[i]).startsWith("--command"))
             return sendCommand(argc, argv);
     }
     QApplication app(argc, argv);
+    installTranslations(app, QLocale().uiLanguages());
     QApplication::setApplicationName(QStringLiteral("moravel"));
     QApplication::setApplicationVersion(QStringLiteral(MORAVEL_VERSION));
     QApplication::setDesktopFileName(ProgramName);

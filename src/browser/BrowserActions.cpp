@@ -3,9 +3,9 @@
 
 #include "browser/Browser.h"
 #include "browser/ImageBrowserView.h"
+#include "platform/Texts.h"
 #include "store/RecordField.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
@@ -19,11 +19,6 @@ namespace {
 
 constexpr int SecondButton = BrowserActions::FirstButton + 1;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("moravel::BrowserActions", text);
-}
-
 /// Asks as a sheet of @p window; its answer comes later, as a return code.
 void showDeleteSheet(QWidget *window, const QString &message, std::function<void(int)> closed)
 {
@@ -32,9 +27,9 @@ void showDeleteSheet(QWidget *window, const QString &message, std::function<void
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->setIcon(QMessageBox::Critical);
     sheet->setText(message);
-    sheet->setInformativeText(tr("This action cannot be undone."));
-    QPushButton *remove = sheet->addButton(tr("Delete"), QMessageBox::AcceptRole);
-    QPushButton *cancel = sheet->addButton(tr("Cancel"), QMessageBox::RejectRole);
+    sheet->setInformativeText(Texts::tr("This action cannot be undone."));
+    QPushButton *remove = sheet->addButton(Texts::tr("Delete"), QMessageBox::AcceptRole);
+    QPushButton *cancel = sheet->addButton(Texts::tr("Cancel"), QMessageBox::RejectRole);
     sheet->setDefaultButton(remove);
     sheet->setEscapeButton(cancel);
     QObject::connect(
@@ -141,8 +136,9 @@ void BrowserActions::removeItemsAtIndexes(const QList<int> &ascending)
     if (m_context.ports.optionKeyHeld && m_context.ports.optionKeyHeld())
         return didCloseDeleteAlert(FirstButton);
     const QString message = count == 1
-        ? tr("Are you sure you want to delete the selected pic?")
-        : tr("Are you sure you want to delete the %1 selected pics?").arg(count);
+        ? Texts::tr("Are you sure you want to delete the selected pic?")
+        : Texts::tr("Are you sure you want to delete the %n selected pics?", nullptr,
+                    static_cast<int>(count));
     showDeleteSheet(&m_browser.browserWindow(), message,
                     [this](int returnCode) { didCloseDeleteAlert(returnCode); });
 }

@@ -293,7 +293,7 @@ void BrowserWindow::setZoom(float zoom)
 
 void BrowserWindow::showCount(int pictures)
 {
-    m_pictureCount->setText(tr("%1 pictures.").arg(pictures));
+    m_pictureCount->setText(tr("%n pictures.", nullptr, pictures));
 }
 
 } // namespace moravel

@@ -2,19 +2,9 @@
 #include "desktop/DesktopManagement.h"
 
 #include "desktop/DesktopUrls.h"
-
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 namespace moravel {
-
-namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("moravel", text);
-}
-
-} // namespace
 
 DesktopManagement::DesktopManagement(const DesktopContext &context)
     : m_context(context)
@@ -54,9 +44,9 @@ void DesktopManagement::setDesktop(const QString &currentLargePicPath)
     }
     constexpr int ShowAnyway = 1;
     const DesktopQuestion question{
-        translated("File too big"),
-        translated("That pic will take ages to display, so your system will appear frozen."),
-        {translated("Don't Show"), translated("Show Anyway")}};
+        Texts::tr("File too big"),
+        Texts::tr("That pic will take ages to display, so your system will appear frozen."),
+        {Texts::tr("Don't Show"), Texts::tr("Show Anyway")}};
     m_context.ports.ask(
         question, [this, path = currentLargePicPath, alive = std::weak_ptr(m_alive)](int button) {
             if (button == ShowAnyway && !alive.expired())
@@ -104,7 +94,7 @@ void DesktopManagement::showDesktopPrefs()
     m_context.ports.runDesktopPrefsScript([this,
                                            alive = std::weak_ptr(m_alive)](const QString &error) {
         if (!error.isEmpty() && !alive.expired())
-            m_context.platform.alerts.alert(translated("Error opening System Preferences"), error);
+            m_context.platform.alerts.alert(Texts::tr("Error opening System Preferences"), error);
     });
 }
 

@@ -1,18 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/DockMenu.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 namespace moravel {
-
-namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("moravel", text);
-}
-
-} // namespace
 
 bool isOffered(DockCommand command, const DockMenuState &state)
 {
@@ -39,10 +30,10 @@ QList<DockMenuItem> dockMenuItems(const DockMenuState &state)
         {},
         {state.rotateInfoText, DockCommand::None}};
     if (isOffered(DockCommand::HoldForOneHour, state))
-        items.append({translated("Keep this desktop for 1 hour"), DockCommand::HoldForOneHour});
-    items.append({translated("Change desktop now"), DockCommand::RotateDesktop});
+        items.append({Texts::tr("Keep this desktop for 1 hour"), DockCommand::HoldForOneHour});
+    items.append({Texts::tr("Change desktop now"), DockCommand::RotateDesktop});
     if (isOffered(DockCommand::PreviousDesktop, state))
-        items.append({translated("Back to previous desktop"), DockCommand::PreviousDesktop});
+        items.append({Texts::tr("Back to previous desktop"), DockCommand::PreviousDesktop});
     return items;
 }
 

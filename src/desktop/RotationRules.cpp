@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/RotationRules.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 #include <cmath>
 
@@ -9,20 +9,15 @@ namespace moravel {
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("moravel", text);
-}
-
 QString timeLeft(double minutes)
 {
     const double wholeHours = std::ceil(minutes / 60.0);
     if (wholeHours > 1)
-        return translated("New desktop in %1 hours").arg(QString::number(wholeHours, 'f', 0));
+        return Texts::tr("New desktop in %n hours", nullptr, static_cast<int>(wholeHours));
     const double wholeMinutes = std::ceil(minutes);
     if (wholeMinutes > 1)
-        return translated("New desktop in %1 minutes").arg(QString::number(wholeMinutes, 'f', 0));
-    return translated("New desktop in about 1 minute");
+        return Texts::tr("New desktop in %n minutes", nullptr, static_cast<int>(wholeMinutes));
+    return Texts::tr("New desktop in about 1 minute");
 }
 
 } // namespace
@@ -40,8 +35,8 @@ QString rotateInfoText(const std::optional<QDateTime> &nextDesktopRotate, const 
     constexpr double MsPerMinute = 60'000.0;
     if (nextDesktopRotate)
         return timeLeft(static_cast<double>(now.msecsTo(*nextDesktopRotate)) / MsPerMinute);
-    return folderShown ? translated("Desktop set by System Prefs")
-                       : translated("No desktop change scheduled");
+    return folderShown ? Texts::tr("Desktop set by System Prefs")
+                       : Texts::tr("No desktop change scheduled");
 }
 
 bool keepButtonVisible(int rotateFrequency, bool scheduled)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/AboutBox.h"
 
+#include "platform/Texts.h"
+
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFile>
@@ -36,9 +38,8 @@ QString licence()
 
 QString licences()
 {
-    return QDialog::tr("Moravel is free software:") + QLatin1String("\n\n") + licence()
-        + QLatin1String("\n\n")
-        + QDialog::tr("It uses these libraries, each under its own licence:")
+    return Texts::tr("Moravel is free software:") + QLatin1String("\n\n") + licence()
+        + QLatin1String("\n\n") + Texts::tr("It uses these libraries, each under its own licence:")
         + QStringLiteral("\n\nQt 6 \u2013 LGPL 3\nICU \u2013 Unicode licence\n"
                          "GLib and GIO \u2013 LGPL 2.1 or later\nlibxcb \u2013 MIT\n"
                          "zlib \u2013 zlib licence\ntl::expected \u2013 CC0");
@@ -47,11 +48,11 @@ QString licences()
 QString credits(const AboutText &text)
 {
     const QString sources = text.sources.isEmpty()
-        ? QDialog::tr("No source is known yet: the service has not answered.")
-        : QDialog::tr("The pictures belong to those who made them. They come from:")
+        ? Texts::tr("No source is known yet: the service has not answered.")
+        : Texts::tr("The pictures belong to those who made them. They come from:")
             + QLatin1String("\n\n") + text.sources.join(u'\n');
     return sources + QLatin1String("\n\n")
-        + QDialog::tr("They were found by the service at %1.").arg(text.service);
+        + Texts::tr("They were found by the service at %1.").arg(text.service);
 }
 
 QPlainTextEdit *makePage(const QString &objectName, const QString &text)
@@ -82,12 +83,12 @@ QDialog *makeBox(QWidget *window, const AboutText &text)
     auto *box = new QDialog(window);
     box->setObjectName(QStringLiteral("aboutBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setWindowTitle(QDialog::tr("About Moravel"));
+    box->setWindowTitle(Texts::tr("About Moravel"));
     auto *icon = new QLabel(box);
     icon->setPixmap(text.icon.pixmap(QSize(IconPoints, IconPoints), window->devicePixelRatioF()));
     auto *tabs = new QTabWidget(box);
-    tabs->addTab(makePage(QStringLiteral("aboutSources"), credits(text)), QDialog::tr("&Sources"));
-    tabs->addTab(makePage(QStringLiteral("aboutLicences"), licences()), QDialog::tr("&Licences"));
+    tabs->addTab(makePage(QStringLiteral("aboutSources"), credits(text)), Texts::tr("&Sources"));
+    tabs->addTab(makePage(QStringLiteral("aboutLicences"), licences()), Texts::tr("&Licences"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, box);
     QObject::connect(buttons, &QDialogButtonBox::rejected, box, &QDialog::reject);
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
@@ -97,11 +98,11 @@ QDialog *makeBox(QWidget *window, const AboutText &text)
     grid->setColumnStretch(1, 1);
     grid->addWidget(icon, 0, 0, 3, 1, Qt::AlignTop);
     grid->addWidget(makeLabel(QStringLiteral("Moravel"), box, 1.6), 0, 1);
-    grid->addWidget(makeLabel(QDialog::tr("Version %1").arg(text.version), box), 1, 1);
+    grid->addWidget(makeLabel(Texts::tr("Version %1").arg(text.version), box), 1, 1);
     grid->addWidget(
-        makeLabel(QDialog::tr("Shows the pictures of the day of many sources side by side, keeps "
-                              "every one with its caption, and makes any of them the desktop "
-                              "picture."),
+        makeLabel(Texts::tr("Shows the pictures of the day of many sources side by side, keeps "
+                            "every one with its caption, and makes any of them the desktop "
+                            "picture."),
                   box),
         2, 1);
     grid->setRowMinimumHeight(3, 8);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CellMenu.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
+
 #include <QMenu>
 
 namespace moravel {
@@ -10,24 +11,19 @@ namespace {
 
 constexpr int DoubleClick = 2;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("moravel::CellMenu", text);
-}
-
 void addPictureCommands(QMenu &menu, ThumbView &view)
 {
     const ThumbCommands &commands = view.commands();
     if (view.tag() != ThumbView::DesktopTag && commands.setAsDesktop)
-        menu.addAction(tr("Set as &Desktop"), &view,
+        menu.addAction(Texts::tr("Set as &Desktop"), &view,
                        [&view] { view.setThumbAsDesktop(DoubleClick); });
     if (commands.showLargePic)
-        menu.addAction(tr("Show &Large Picture"), &view, &ThumbView::showThumbLarge);
+        menu.addAction(Texts::tr("Show &Large Picture"), &view, &ThumbView::showThumbLarge);
     if (commands.showInFinder)
-        menu.addAction(tr("Show in &File Manager"), &view, &ThumbView::showThumbInFinder);
+        menu.addAction(Texts::tr("Show in &File Manager"), &view, &ThumbView::showThumbInFinder);
     menu.addSeparator();
     if (commands.refreshCaption)
-        menu.addAction(tr("Look Up &Caption Again"), &view,
+        menu.addAction(Texts::tr("Look Up &Caption Again"), &view,
                        [&view] { view.refreshCaption(DoubleClick); });
 }
 
@@ -37,9 +33,10 @@ void addDesktopCommands(QMenu &menu, ThumbView &view)
     const ThumbButtons shown = view.buttons();
     menu.addSeparator();
     if (shown.newDesktopBtn && commands.newDesktop)
-        menu.addAction(tr("&New Desktop"), &view, [&view] { view.commands().newDesktop(view); });
+        menu.addAction(Texts::tr("&New Desktop"), &view,
+                       [&view] { view.commands().newDesktop(view); });
     if (shown.prevDesktopBtn && commands.previousDesktop)
-        menu.addAction(tr("&Previous Desktop"), &view,
+        menu.addAction(Texts::tr("&Previous Desktop"), &view,
                        [&view] { view.commands().previousDesktop(view); });
 }
 
@@ -51,17 +48,17 @@ QMenu *makeCellMenu(ThumbView &view, QWidget *parent)
     const ThumbCommands &commands = view.commands();
     const bool deleted = view.thumbPath() == ThumbView::deletedMark();
     if (deleted && commands.refreshCaption)
-        menu->addAction(tr("&Restore Picture"), &view,
+        menu->addAction(Texts::tr("&Restore Picture"), &view,
                         [&view] { view.refreshCaption(DoubleClick); });
     if (!deleted && !view.thumbPath().isEmpty())
         addPictureCommands(*menu, view);
     if (view.buttons().refreshButton && commands.refreshDataForThumb)
-        menu->addAction(tr("&Refresh"), &view, &ThumbView::refreshData);
+        menu->addAction(Texts::tr("&Refresh"), &view, &ThumbView::refreshData);
     if (view.tag() == ThumbView::DesktopTag)
         addDesktopCommands(*menu, view);
     if (view.buttons().deleteBtn && commands.deletePic) {
         menu->addSeparator();
-        menu->addAction(tr("D&elete"), &view, [&view] { view.commands().deletePic(view); });
+        menu->addAction(Texts::tr("D&elete"), &view, [&view] { view.commands().deletePic(view); });
     }
     if (menu->isEmpty())
         return nullptr;

@@ -3,24 +3,19 @@
 
 #include "mainwindow/Icons.h"
 #include "mainwindow/LargeImageView.h"
+#include "platform/Texts.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QMenu>
 
 namespace moravel {
 
 namespace {
 
-QString tr(const char *text)
+QAction *make(QWidget *window, const QString &title, const char *icon,
+              const QList<QKeySequence> &keys, const std::function<void()> &command)
 {
-    return QCoreApplication::translate("moravel::LargePicWindow", text);
-}
-
-QAction *make(QWidget *window, const char *title, const char *icon, const QList<QKeySequence> &keys,
-              const std::function<void()> &command)
-{
-    auto *action = new QAction(tr(title), window);
+    auto *action = new QAction(title, window);
     if (icon)
         action->setIcon(themedIcon(QLatin1String(icon)));
     action->setIconVisibleInMenu(false);
@@ -41,33 +36,33 @@ LargePicActions::LargePicActions(QWidget *window, const LargePicCommands &comman
     const bool mirrored = window->isRightToLeft();
     const int back = mirrored ? Qt::Key_Right : Qt::Key_Left;
     const int forth = mirrored ? Qt::Key_Left : Qt::Key_Right;
-    previous = make(window, QT_TR_NOOP("&Previous Picture"), "previous-day", {back},
+    previous = make(window, Texts::tr("&Previous Picture"), "previous-day", {back},
                     commands.previousLargePic);
-    next = make(window, QT_TR_NOOP("&Next Picture"), "next-day", {forth}, commands.nextLargePic);
-    showParent = make(window, QT_TR_NOOP("&Original Page"), "web", {Qt::CTRL | Qt::Key_O},
+    next = make(window, Texts::tr("&Next Picture"), "next-day", {forth}, commands.nextLargePic);
+    showParent = make(window, Texts::tr("&Original Page"), "web", {Qt::CTRL | Qt::Key_O},
                       commands.showParent);
-    setDesktop = make(window, QT_TR_NOOP("Set as &Desktop"), "desktop", {Qt::CTRL | Qt::Key_D},
+    setDesktop = make(window, Texts::tr("Set as &Desktop"), "desktop", {Qt::CTRL | Qt::Key_D},
                       commands.setDesktop);
-    showInFinder = make(window, QT_TR_NOOP("Show in &File Manager"), "folder",
+    showInFinder = make(window, Texts::tr("Show in &File Manager"), "folder",
                         {Qt::CTRL | Qt::Key_R}, commands.showPicInFinder);
-    email = make(window, QT_TR_NOOP("Share by &E-mail"), "mail", {Qt::CTRL | Qt::Key_E},
+    email = make(window, Texts::tr("Share by &E-mail"), "mail", {Qt::CTRL | Qt::Key_E},
                  commands.shareEmail);
     facebook =
-        make(window, QT_TR_NOOP("Share on Face&book"), "facebook", {}, commands.shareFacebook);
-    twitter = make(window, QT_TR_NOOP("Share on &Twitter"), "twitter", {}, commands.shareTwitter);
-    deletePic = make(window, QT_TR_NOOP("De&lete"), "delete", {Qt::Key_Delete}, commands.deletePic);
-    standardSize = make(window, QT_TR_NOOP("Fit &Window to Picture"), "zoom-window",
+        make(window, Texts::tr("Share on Face&book"), "facebook", {}, commands.shareFacebook);
+    twitter = make(window, Texts::tr("Share on &Twitter"), "twitter", {}, commands.shareTwitter);
+    deletePic = make(window, Texts::tr("De&lete"), "delete", {Qt::Key_Delete}, commands.deletePic);
+    standardSize = make(window, Texts::tr("Fit &Window to Picture"), "zoom-window",
                         {Qt::CTRL | Qt::Key_2}, fitWindow);
-    zoomIn = make(window, QT_TR_NOOP("Zoom &In"), nullptr,
+    zoomIn = make(window, Texts::tr("Zoom &In"), nullptr,
                   {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, [&view] { view.zoomIn(); });
-    zoomOut = make(window, QT_TR_NOOP("Zoom O&ut"), nullptr, {Qt::CTRL | Qt::Key_Minus},
+    zoomOut = make(window, Texts::tr("Zoom O&ut"), nullptr, {Qt::CTRL | Qt::Key_Minus},
                    [&view] { view.zoomOut(); });
-    zoomToFit = make(window, QT_TR_NOOP("&Zoom to Fit"), nullptr, {Qt::CTRL | Qt::Key_0},
+    zoomToFit = make(window, Texts::tr("&Zoom to Fit"), nullptr, {Qt::CTRL | Qt::Key_0},
                      [&view] { view.zoomToFit(); });
-    actualSize = make(window, QT_TR_NOOP("&Actual Size"), nullptr, {Qt::CTRL | Qt::Key_1},
+    actualSize = make(window, Texts::tr("&Actual Size"), nullptr, {Qt::CTRL | Qt::Key_1},
                       [&view] { view.zoomToActualSize(); });
-    fullScreen = make(window, QT_TR_NOOP("Full Sc&reen"), nullptr, {Qt::Key_F11}, [] {});
-    close = make(window, QT_TR_NOOP("&Close"), nullptr, {Qt::Key_Escape, Qt::CTRL | Qt::Key_W},
+    fullScreen = make(window, Texts::tr("Full Sc&reen"), nullptr, {Qt::Key_F11}, [] {});
+    close = make(window, Texts::tr("&Close"), nullptr, {Qt::Key_Escape, Qt::CTRL | Qt::Key_W},
                  closeWindow);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/PicInfo.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 namespace moravel {
 
@@ -12,17 +12,15 @@ InfoPlan planInfo(const QString &infoString)
     if (text.isEmpty())
         return {lookingForInfo(), true, false};
     if (text == u"NEW")
-        return {QCoreApplication::translate(
-                    "moravel",
-                    "This picture was downloaded using an older version of Moravel, so no "
-                    "detailed information is available."),
+        return {Texts::tr("This picture was downloaded using an older version of Moravel, so no "
+                          "detailed information is available."),
                 false, true};
     return {text, false, false};
 }
 
 QString lookingForInfo()
 {
-    return QCoreApplication::translate("moravel", "Looking for more info...");
+    return Texts::tr("Looking for more info...");
 }
 
 QString infoDocument(const QString &safeHtml)

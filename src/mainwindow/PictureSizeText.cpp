@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/PictureSizeText.h"
 
-#include <QCoreApplication>
-#include <QStringList>
+#include "platform/Texts.h"
 
 namespace moravel {
 
@@ -13,24 +12,22 @@ QString prettyFileSize(qint64 bytes)
     if (bytes <= 0)
         return {};
     if (bytes < Threshold)
-        return QString::asprintf("%lld B", static_cast<long long>(bytes));
+        return Texts::tr("%1 B").arg(Texts::number(bytes));
     const float kilobytes = static_cast<float>(bytes) * Share;
     if (kilobytes < Threshold)
-        return QString::asprintf("%.1f KB", static_cast<double>(kilobytes));
-    return QString::asprintf("%.1f MB", static_cast<double>(kilobytes * Share));
+        return Texts::tr("%1 KB").arg(Texts::number(static_cast<double>(kilobytes), 1));
+    return Texts::tr("%1 MB").arg(Texts::number(static_cast<double>(kilobytes * Share), 1));
 }
 
 QString pictureSizeText(const QString &name, QSize pixels, const QString &fileSize)
 {
-    QStringList parts;
+    const QString width = Texts::number(pixels.width());
+    const QString height = Texts::number(pixels.height());
     if (pixels.width() > 0)
-        parts += QCoreApplication::translate("moravel", "%1 x %2 pixels")
-                     .arg(QString::number(pixels.width()), QString::number(pixels.height()));
-    if (!fileSize.isEmpty())
-        parts += fileSize;
-    if (parts.isEmpty())
-        return name;
-    return QStringLiteral("%1 (%2)").arg(name, parts.join(QStringLiteral(", ")));
+        return fileSize.isEmpty()
+            ? Texts::tr("%1 (%2 x %3 pixels)").arg(name, width, height)
+            : Texts::tr("%1 (%2 x %3 pixels, %4)").arg(name, width, height, fileSize);
+    return fileSize.isEmpty() ? name : Texts::tr("%1 (%2)").arg(name, fileSize);
 }
 
 } // namespace moravel

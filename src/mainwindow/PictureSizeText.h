@@ -6,7 +6,7 @@
 
 namespace moravel {
 
-/// Returns a file's size in readable form: "999 B", "1.0 KB", "1.0 MB", the same in every language.
+/// Returns a file's size in readable form: "999 B", "1.0 KB", "1.0 MB", with the digits of the user's region.
 /// Empty for an empty file and for -1, a file whose size is not known. A unit begins at 1000 of the one
 /// below, but holds 1024 of it.
 QString prettyFileSize(qint64 bytes);

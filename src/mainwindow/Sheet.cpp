@@ -2,6 +2,7 @@
 #include "mainwindow/Sheet.h"
 
 #include "mainwindow/CaptionLabel.h"
+#include "platform/Texts.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -106,7 +107,7 @@ void showSheet(QWidget *window, const Sheet &sheet, std::function<void()> ended)
     auto *dialog = new QDialog(window);
     dialog->setObjectName(QStringLiteral("sheet"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(QDialog::tr("Moravel"));
+    dialog->setWindowTitle(Texts::tr("Moravel"));
     dialog->setAccessibleName(sheet.title);
     dialog->setAccessibleDescription(sheet.text);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, dialog);

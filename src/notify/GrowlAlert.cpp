@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "notify/GrowlAlert.h"
 
+#include "platform/Texts.h"
+
 namespace moravel {
 
 namespace {
@@ -54,7 +56,7 @@ void GrowlAlert::growlAlertWithClickContext(const QString &message, const QStrin
 {
     Notification notification = make(message, title);
     notification.clickContext = ClickContext;
-    notification.clickLabel = QStringLiteral("Set as desktop");
+    notification.clickLabel = Texts::tr("Set as desktop");
     m_notifications.notify(notification);
 }
 
@@ -69,7 +71,7 @@ void GrowlAlert::newPicture(const ThumbView &cell, const QString &path)
     // Joined, not substituted: a caption may hold place markers.
     const QStringList lines{cell.longSourceName(), cell.dateString(), cell.captionString()};
     setLastPicFile(path);
-    growlAlert(lines.join(u'\n'), QStringLiteral("New picture of the day"));
+    growlAlert(lines.join(u'\n'), Texts::tr("New picture of the day"));
 }
 
 } // namespace moravel

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "service/CaptionRefresh.h"
 
+#include "platform/Texts.h"
 #include "service/Decoding.h"
 #include "service/Logging.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 
 namespace moravel {
@@ -45,7 +45,7 @@ void CaptionRefresh::implementRefreshCaption(ThumbView &cell)
         return;
     m_lookedUp.insert(&cell);
     const LookUp lookUp{&cell, cell.dateString(), cell.captionField()};
-    cell.setCaptionField(QCoreApplication::translate("moravel", "Looking up caption..."));
+    cell.setCaptionField(Texts::tr("Looking up caption..."));
     if (isInWindow(cell))
         m_context.ports.largePic->showLookingForInfo();
     m_context.platform.loop.schedule(NoticeSeconds, [this, lookUp, key = &cell] {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "service/ConnectionQueue.h"
 
+#include "platform/Texts.h"
 #include "service/Decoding.h"
 #include "service/Logging.h"
-
-#include <QCoreApplication>
 
 namespace moravel {
 
@@ -73,9 +72,9 @@ void ConnectionQueue::checkConnectionQueue()
     m_inFlight = true;
     const Connector &head = m_queue.front();
     if (head.thumb) {
-        m_ports.status(QCoreApplication::translate("moravel", "Looking for new pic from %1...")
-                           .arg(head.thumb->longSourceName()));
-        head.thumb->setCaptionField(ThumbView::tr("Looking for new pic..."));
+        m_ports.status(
+            Texts::tr("Looking for new pic from %1...").arg(head.thumb->longSourceName()));
+        head.thumb->setCaptionField(ThumbView::lookingText());
     }
     FormPost post = formPost(head.URL);
     HttpRequest request;

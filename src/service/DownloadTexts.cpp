@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "service/DownloadTexts.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 #include <algorithm>
 
@@ -32,16 +32,15 @@ std::optional<float> DownloadProgress::percent() const
 
 QString downloadStatusText(const DownloadProgress &progress)
 {
-    return QCoreApplication::translate("moravel", "Downloading pic from %1: %2 of %3 KB")
-        .arg(sourceText(progress), QString::number(progress.kbReceived()),
-             QString::number(progress.kbExpected()));
+    return Texts::tr("Downloading pic from %1: %2 of %3 KB")
+        .arg(sourceText(progress), Texts::number(progress.kbReceived()),
+             Texts::number(progress.kbExpected()));
 }
 
 QString downloadWindowText(const DownloadProgress &progress)
 {
     if (progress.kbReceived() == progress.kbExpected())
-        return QCoreApplication::translate("moravel", "Saving pic from %1...")
-            .arg(sourceText(progress));
+        return Texts::tr("Saving pic from %1...").arg(sourceText(progress));
     return downloadStatusText(progress);
 }
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "service/Downloads.h"
 
+#include "platform/Texts.h"
 #include "service/Logging.h"
-
-#include <QCoreApplication>
 
 namespace moravel {
 
@@ -14,7 +13,7 @@ constexpr double TotalSeconds = 3600; // a trickle must not go on for ever
 
 QString hintText()
 {
-    return QCoreApplication::translate("moravel", "Double-click any thumbnail to set as desktop.");
+    return Texts::tr("Double-click any thumbnail to set as desktop.");
 }
 
 // The extension of the link, as far as it decides whether this is a picture: without a query.

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "service/PicturePass.h"
 
+#include "platform/Texts.h"
 #include "service/Logging.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -36,8 +35,7 @@ void PicturePass::loadNextPic()
     if (m_state.thumbIndex >= m_context.cells.count()) {
         m_state.thumbIndex = 0;
         m_state.pass = PassState::Pass::None;
-        m_context.ports.status(QCoreApplication::translate(
-            "moravel", "Double-click any thumbnail to set as desktop."));
+        m_context.ports.status(Texts::tr("Double-click any thumbnail to set as desktop."));
         return;
     }
     if (m_state.pass == PassState::Pass::None)

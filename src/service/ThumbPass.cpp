@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "service/ThumbPass.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
 
 namespace moravel {
 
@@ -85,8 +85,7 @@ void ThumbPass::endPass()
     m_state.thumbIndex = 0;
     m_state.pass = PassState::Pass::None;
     m_state.lastDataCheck = loop.now();
-    m_context.ports.status(
-        QCoreApplication::translate("moravel", "Double-click any thumbnail to set as desktop."));
+    m_context.ports.status(Texts::tr("Double-click any thumbnail to set as desktop."));
     loop.schedule(1.0, m_loadNextPic);
     if (m_context.ports.loadNews)
         loop.schedule(1.0, m_context.ports.loadNews);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "share/BugReport.h"
 
+#include "platform/Texts.h"
 #include "share/UrlText.h"
-
-#include <QCoreApplication>
 
 namespace moravel {
 
@@ -69,10 +68,9 @@ BugMail bugMail(const QString &supportAddress, const QString &version, const QSt
     const QString url = build(text);
     if (url.size() <= LongestSureUrl)
         return {url, {}};
-    const QString note = QCoreApplication::translate(
-        "moravel",
-        "(This text is long. It is in the clipboard as well: paste it here if its end "
-        "is missing.)\n\n");
+    const QString note =
+        Texts::tr("(This text is long. It is in the clipboard as well: paste it here if its end "
+                  "is missing.)\n\n");
     return {fittedUrl(note + text, build), text};
 }
 

@@ -1,21 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "share/Sharing.h"
 
+#include "platform/Texts.h"
 #include "share/Logging.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 
 namespace moravel {
-
-namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("moravel", text);
-}
-
-} // namespace
 
 Sharing::Sharing(UrlOpener &urls, Clipboard &clipboard, Preferences &preferences,
                  const Dates &dates, ShareAddresses addresses, SharePorts ports)
@@ -44,7 +35,7 @@ void Sharing::withPage(ThumbView &cell, const QString &failure,
             && cell->dateString() == picture.dateString)
             cell->setParentPath(page);
         if (page.isEmpty())
-            m_ports.warn(failure, translated("The original web page could not be found."));
+            m_ports.warn(failure, Texts::tr("The original web page could not be found."));
         else
             share(complete);
     };
@@ -54,7 +45,7 @@ void Sharing::withPage(ThumbView &cell, const QString &failure,
 
 void Sharing::shareFacebook(ThumbView &currentThumb)
 {
-    withPage(currentThumb, translated("Sorry, that picture could not be posted on Facebook."),
+    withPage(currentThumb, Texts::tr("Sorry, that picture could not be posted on Facebook."),
              [this](const SharedPicture &picture) { pageIsFound(picture); });
 }
 
@@ -67,10 +58,10 @@ void Sharing::pageIsFound(const SharedPicture &picture)
     }
     m_preferences.saveFacebook(true);
     m_ports.inform(
-        translated("You will now be taken to your web browser with a link that will allow you to "
-                   "share this picture on Facebook.\n\nMore information about the picture is in "
-                   "the clipboard for pasting into the Facebook messsage area.\n"),
-        translated("This message will not be shown again."),
+        Texts::tr("You will now be taken to your web browser with a link that will allow you to "
+                  "share this picture on Facebook.\n\nMore information about the picture is in "
+                  "the clipboard for pasting into the Facebook messsage area.\n"),
+        Texts::tr("This message will not be shown again."),
         [this, picture] { postToFacebook(picture); });
 }
 
@@ -81,7 +72,7 @@ void Sharing::postToFacebook(const SharedPicture &picture)
 
 void Sharing::shareTwitter(ThumbView &currentThumb)
 {
-    withPage(currentThumb, translated("Sorry, that picture could not be posted on Twitter."),
+    withPage(currentThumb, Texts::tr("Sorry, that picture could not be posted on Twitter."),
              [this](const SharedPicture &picture) {
                  m_urls.open(twitterUrl(m_addresses.twitterHost, picture));
              });
@@ -89,7 +80,7 @@ void Sharing::shareTwitter(ThumbView &currentThumb)
 
 void Sharing::shareEmail(ThumbView &currentThumb)
 {
-    withPage(currentThumb, translated("Sorry, that picture could not be shared via email."),
+    withPage(currentThumb, Texts::tr("Sorry, that picture could not be shared via email."),
              [this](const SharedPicture &picture) {
                  const QString url = emailUrl(m_addresses.home, picture);
                  qCInfo(lcShare).noquote() << "EmailURL:" << url;

@@ -2,9 +2,8 @@
 #include "store/Folders.h"
 
 #include "platform/Alerts.h"
+#include "platform/Texts.h"
 #include "store/Logging.h"
-
-#include <QCoreApplication>
 
 namespace moravel {
 
@@ -53,22 +52,19 @@ QString Folders::provideOrAlert(const QString &folder, const QString &alertTitle
 
 QString Folders::moravelFolder()
 {
-    return provideOrAlert(picturePath({}),
-                          QCoreApplication::translate("moravel", "Error creating Moravel folder."));
+    return provideOrAlert(picturePath({}), Texts::tr("Error creating Moravel folder."));
 }
 
 QString Folders::thumbsFolder()
 {
-    return provideOrAlert(
-        picturePath(QStringLiteral("thumbs/")),
-        QCoreApplication::translate("moravel", "Error creating Moravel thumbs folder."));
+    return provideOrAlert(picturePath(QStringLiteral("thumbs/")),
+                          Texts::tr("Error creating Moravel thumbs folder."));
 }
 
 QString Folders::moravelDataFile()
 {
-    const QString support = provideOrAlert(
-        supportPath(),
-        QCoreApplication::translate("moravel", "Error creating Moravel support folder."));
+    const QString support =
+        provideOrAlert(supportPath(), Texts::tr("Error creating Moravel support folder."));
     if (support.isEmpty())
         return {};
     QString newPath = support + dataFileName();
@@ -78,9 +74,8 @@ QString Folders::moravelDataFile()
     const auto moved = m_files.move(oldPath, newPath);
     if (moved)
         return newPath;
-    m_alerts.alert(
-        QCoreApplication::translate("moravel", "Error moving Moravel data file to support folder."),
-        moved.error().description);
+    m_alerts.alert(Texts::tr("Error moving Moravel data file to support folder."),
+                   moved.error().description);
     return oldPath;
 }
 

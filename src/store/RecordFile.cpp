@@ -3,13 +3,12 @@
 
 #include "base/Dates.h"
 #include "platform/Alerts.h"
+#include "platform/Texts.h"
 #include "store/Folders.h"
 #include "store/Lines.h"
 #include "store/Logging.h"
 #include "store/RecordField.h"
 #include "store/Utf8.h"
-
-#include <QCoreApplication>
 
 namespace moravel {
 
@@ -129,8 +128,7 @@ bool RecordFile::write(const QString &path, std::initializer_list<std::string_vi
 bool RecordFile::alertNotStored(const FileError &error)
 {
     qCInfo(lcStore) << "cannot store in" << error.path << error.description;
-    m_alerts.alert(QCoreApplication::translate("moravel", "Error storing Moravel data."),
-                   error.description);
+    m_alerts.alert(Texts::tr("Error storing Moravel data."), error.description);
     return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "text/HTMLText.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <cstdint>
@@ -67,10 +68,11 @@ QString normalisedCaption(QStringView caption)
 
 QString captionForCell(QStringView caption)
 {
-    QString text = normalisedCaption(caption);
-    if (text == u"Deleted.")
-        return QStringLiteral("%1\n\nDouble-click to un-delete.").arg(text);
-    return text;
+    const QString text = normalisedCaption(caption);
+    // The mark itself stays as the records have it.
+    return text == u"Deleted."
+        ? QCoreApplication::translate("moravel", "Deleted.\n\nDouble-click to un-delete.")
+        : text;
 }
 
 } // namespace moravel

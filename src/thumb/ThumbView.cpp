@@ -39,6 +39,11 @@ void ThumbView::showCaption(const QString &caption)
     setCaptionField(m_captionString);
 }
 
+QString ThumbView::lookingText()
+{
+    return tr("Looking for new pic...");
+}
+
 void ThumbView::setCaptionField(const QString &text)
 {
     m_captionField = text;
@@ -149,7 +154,7 @@ void ThumbView::setThumbAsDesktop(int clickCount)
 
 void ThumbView::refreshCaption(int clickCount)
 {
-    if (clickCount >= 2 && m_captionField != tr("Looking for new pic..."))
+    if (clickCount >= 2 && m_captionField != lookingText())
         call(m_commands.refreshCaption, *this);
 }
 

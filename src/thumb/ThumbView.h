@@ -67,6 +67,9 @@ public:
     static constexpr int DesktopTag = 99;
     static constexpr int BrowserTag = 98;
 
+    /// What the caption label says while the cell waits for its picture's data.
+    static QString lookingText();
+
     /// Marks a picture that the user has deleted, in place of a thumb link.
     static QString deletedMark() { return QStringLiteral("DELETED"); }
 

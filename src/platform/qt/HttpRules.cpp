@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/HttpRules.h"
 
-#include <QCoreApplication>
+#include "platform/Texts.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -9,11 +10,6 @@
 namespace moravel::httprules {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Http", text);
-}
 
 bool isToken(const QByteArray &name)
 {
@@ -44,31 +40,31 @@ QString statusReason(int status)
 {
     switch (status) {
     case 400:
-        return tr("bad request");
+        return Texts::tr("bad request");
     case 401:
-        return tr("login required");
+        return Texts::tr("login required");
     case 403:
-        return tr("access denied");
+        return Texts::tr("access denied");
     case 404:
-        return tr("not found");
+        return Texts::tr("not found");
     case 408:
-        return tr("request timed out");
+        return Texts::tr("request timed out");
     case 410:
-        return tr("no longer there");
+        return Texts::tr("no longer there");
     case 429:
-        return tr("too many requests");
+        return Texts::tr("too many requests");
     case 500:
-        return tr("internal error");
+        return Texts::tr("internal error");
     case 502:
-        return tr("bad gateway");
+        return Texts::tr("bad gateway");
     case 503:
-        return tr("service unavailable");
+        return Texts::tr("service unavailable");
     case 504:
-        return tr("gateway timed out");
+        return Texts::tr("gateway timed out");
     default:
-        return status < 400 ? tr("unexpected answer")
-            : status < 500  ? tr("request refused")
-                            : tr("server error");
+        return status < 400 ? Texts::tr("unexpected answer")
+            : status < 500  ? Texts::tr("request refused")
+                            : Texts::tr("server error");
     }
 }
 
@@ -102,7 +98,8 @@ tl::expected<HttpRequest, HttpError> redirected(const HttpRequest &request, int 
                                                 const QUrl &target)
 {
     if (!isAllowed(target) || (isHttps(request.url) && !isHttps(target)))
-        return tl::unexpected(HttpError{status, tr("The server refers to a forbidden address.")});
+        return tl::unexpected(
+            HttpError{status, Texts::tr("The server refers to a forbidden address.")});
     HttpRequest next = request;
     next.url = target;
     if (!isRepeatable(request.method)) {
@@ -124,20 +121,21 @@ tl::expected<HttpRequest, HttpError> redirected(const HttpRequest &request, int 
 
 HttpError statusError(int status)
 {
-    return {status,
-            tr("The server answered with error %1 (%2).").arg(status).arg(statusReason(status))};
+    return {
+        status,
+        Texts::tr("The server answered with error %1 (%2).").arg(status).arg(statusReason(status))};
 }
 
 HttpError networkError(QNetworkReply::NetworkError error, const QString &host)
 {
     switch (error) {
     case QNetworkReply::HostNotFoundError:
-        return {0, tr("The server %1 could not be found.").arg(host)};
+        return {0, Texts::tr("The server %1 could not be found.").arg(host)};
     case QNetworkReply::ConnectionRefusedError:
     case QNetworkReply::TemporaryNetworkFailureError:
     case QNetworkReply::NetworkSessionFailedError:
     case QNetworkReply::UnknownNetworkError:
-        return {0, tr("The server %1 could not be reached.").arg(host)};
+        return {0, Texts::tr("The server %1 could not be reached.").arg(host)};
     case QNetworkReply::RemoteHostClosedError:
     case QNetworkReply::ContentReSendError:
         return incomplete();
@@ -145,14 +143,14 @@ HttpError networkError(QNetworkReply::NetworkError error, const QString &host)
     case QNetworkReply::OperationCanceledError: // the network layer's own idle timeout
         return timedOut();
     case QNetworkReply::SslHandshakeFailedError:
-        return {0, tr("A secure connection to %1 could not be made.").arg(host)};
+        return {0, Texts::tr("A secure connection to %1 could not be made.").arg(host)};
     case QNetworkReply::ProxyConnectionRefusedError:
     case QNetworkReply::ProxyConnectionClosedError:
     case QNetworkReply::ProxyNotFoundError:
     case QNetworkReply::ProxyTimeoutError:
     case QNetworkReply::ProxyAuthenticationRequiredError:
     case QNetworkReply::UnknownProxyError:
-        return {0, tr("The proxy server could not be used.")};
+        return {0, Texts::tr("The proxy server could not be used.")};
     default:
         return notUnderstood();
     }
@@ -160,27 +158,28 @@ HttpError networkError(QNetworkReply::NetworkError error, const QString &host)
 
 HttpError tooLarge(qint64 maxBytes)
 {
-    return {0, tr("The answer is larger than %1.").arg(QLocale().formattedDataSize(maxBytes))};
+    return {0,
+            Texts::tr("The answer is larger than %1.").arg(QLocale().formattedDataSize(maxBytes))};
 }
 
 HttpError timedOut()
 {
-    return {0, tr("The server took too long to answer.")};
+    return {0, Texts::tr("The server took too long to answer.")};
 }
 
 HttpError incomplete()
 {
-    return {0, tr("The connection was lost before the answer was complete.")};
+    return {0, Texts::tr("The connection was lost before the answer was complete.")};
 }
 
 HttpError notUnderstood()
 {
-    return {0, tr("The server's answer could not be understood.")};
+    return {0, Texts::tr("The server's answer could not be understood.")};
 }
 
 HttpError cannotSend()
 {
-    return {0, tr("The address is not valid.")};
+    return {0, Texts::tr("The address is not valid.")};
 }
 
 } // namespace moravel::httprules

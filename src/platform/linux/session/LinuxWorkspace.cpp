@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/session/LinuxWorkspace.h"
 
+#include "platform/Texts.h"
 #include "platform/linux/session/Log.h"
 
 #include <QDBusMessage>
@@ -92,7 +93,7 @@ QString LinuxWorkspace::errorOf(QProcess &process) const
         return message;
     return process.exitStatus() == QProcess::CrashExit
         ? process.errorString()
-        : QStringLiteral("The script ended with error %1.").arg(process.exitCode());
+        : Texts::tr("The script ended with error %1.").arg(process.exitCode());
 }
 
 void LinuxWorkspace::scriptEnded(const QString &error)

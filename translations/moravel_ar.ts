@@ -1,0 +1,918 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>moravel</name>
+    <message>
+        <source>This action cannot be undone.</source>
+        <translation>لا يمكن التراجع عن هذا الإجراء.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete the selected pic?</source>
+        <translation>هل تريد حقًا حذف الصورة المحددة؟</translation>
+    </message>
+    <message numerus="yes">
+        <source>Are you sure you want to delete the %n selected pics?</source>
+        <translation>
+            <numerusform>هل تريد حقًا حذف الصور المحددة؟</numerusform>
+            <numerusform>هل تريد حقًا حذف الصورة المحددة؟</numerusform>
+            <numerusform>هل تريد حقًا حذف الصورتين المحددتين؟</numerusform>
+            <numerusform>هل تريد حقًا حذف %Ln صور محددة؟</numerusform>
+            <numerusform>هل تريد حقًا حذف %Ln صورة محددة؟</numerusform>
+            <numerusform>هل تريد حقًا حذف %Ln صورة محددة؟</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>File too big</source>
+        <translation>الملف كبير جدًا</translation>
+    </message>
+    <message>
+        <source>That pic will take ages to display, so your system will appear frozen.</source>
+        <translation>سيستغرق عرض هذه الصورة وقتًا طويلًا جدًا، وسيبدو النظام متجمدًا أثناء ذلك.</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Show</source>
+        <translation>عدم العرض</translation>
+    </message>
+    <message>
+        <source>Show Anyway</source>
+        <translation>العرض على أي حال</translation>
+    </message>
+    <message>
+        <source>Error opening System Preferences</source>
+        <translation>حدث خطأ عند فتح إعدادات النظام</translation>
+    </message>
+    <message>
+        <source>Keep this desktop for 1 hour</source>
+        <translation>إبقاء هذه الخلفية ساعة واحدة</translation>
+    </message>
+    <message>
+        <source>Change desktop now</source>
+        <translation>تغيير الخلفية الآن</translation>
+    </message>
+    <message>
+        <source>Back to previous desktop</source>
+        <translation>العودة إلى الخلفية السابقة</translation>
+    </message>
+    <message numerus="yes">
+        <source>New desktop in %n hours</source>
+        <translation>
+            <numerusform>خلفية جديدة خلال أقل من ساعة</numerusform>
+            <numerusform>خلفية جديدة خلال ساعة</numerusform>
+            <numerusform>خلفية جديدة خلال ساعتين</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln ساعات</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln ساعة</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln ساعة</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>New desktop in %n minutes</source>
+        <translation>
+            <numerusform>خلفية جديدة خلال أقل من دقيقة</numerusform>
+            <numerusform>خلفية جديدة خلال دقيقة</numerusform>
+            <numerusform>خلفية جديدة خلال دقيقتين</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln دقائق</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln دقيقة</numerusform>
+            <numerusform>خلفية جديدة خلال %Ln دقيقة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>New desktop in about 1 minute</source>
+        <translation>خلفية جديدة خلال دقيقة تقريبًا</translation>
+    </message>
+    <message>
+        <source>Desktop set by System Prefs</source>
+        <translation>الخلفية محددة من إعدادات النظام</translation>
+    </message>
+    <message>
+        <source>No desktop change scheduled</source>
+        <translation>لا يوجد تغيير مقرر للخلفية</translation>
+    </message>
+    <message>
+        <source>Moravel is free software:</source>
+        <translation>Moravel برنامج حر:</translation>
+    </message>
+    <message>
+        <source>It uses these libraries, each under its own licence:</source>
+        <translation>وهو يستخدم المكتبات التالية، ولكل منها رخصتها:</translation>
+    </message>
+    <message>
+        <source>No source is known yet: the service has not answered.</source>
+        <translation>لا يُعرف أي مصدر بعد: لم تُجب الخدمة.</translation>
+    </message>
+    <message>
+        <source>The pictures belong to those who made them. They come from:</source>
+        <translation>الصور ملك لمن التقطها أو صنعها، وهي واردة من:</translation>
+    </message>
+    <message>
+        <source>They were found by the service at %1.</source>
+        <translation>عثرت عليها الخدمة الموجودة في ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>About Moravel</source>
+        <translation>حول Moravel</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>ال&amp;مصادر</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>ال&amp;رخص</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>الإصدار ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Shows the pictures of the day of many sources side by side, keeps every one with its caption, and makes any of them the desktop picture.</source>
+        <translation>يعرض صور اليوم من مصادر كثيرة جنبًا إلى جنب، ويحفظ كل صورة مع شرحها، ويجعل أيًا منها خلفية لسطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Set as &amp;Desktop</source>
+        <translation>تعيين ك&amp;خلفية</translation>
+    </message>
+    <message>
+        <source>Show &amp;Large Picture</source>
+        <translation>عرض الصورة &amp;كبيرة</translation>
+    </message>
+    <message>
+        <source>Show in &amp;File Manager</source>
+        <translation>إظهار في مدير ال&amp;ملفات</translation>
+    </message>
+    <message>
+        <source>Look Up &amp;Caption Again</source>
+        <translation>جلب ال&amp;شرح من جديد</translation>
+    </message>
+    <message>
+        <source>&amp;New Desktop</source>
+        <translation>خلفية &amp;جديدة</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Desktop</source>
+        <translation>الخلفية ال&amp;سابقة</translation>
+    </message>
+    <message>
+        <source>&amp;Restore Picture</source>
+        <translation>استعادة ال&amp;صورة</translation>
+    </message>
+    <message>
+        <source>&amp;Refresh</source>
+        <translation>ت&amp;حديث</translation>
+    </message>
+    <message>
+        <source>D&amp;elete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Service &amp;Home Page</source>
+        <translation>صفحة ال&amp;خدمة</translation>
+    </message>
+    <message>
+        <source>&amp;News</source>
+        <translation>الأخ&amp;بار</translation>
+    </message>
+    <message>
+        <source>&amp;Release Notes</source>
+        <translation>ملاحظات الإ&amp;صدار</translation>
+    </message>
+    <message>
+        <source>Report a &amp;Bug…</source>
+        <translation>الإبلاغ عن خ&amp;طأ…</translation>
+    </message>
+    <message>
+        <source>&amp;About Moravel</source>
+        <translation>&amp;حول Moravel</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Picture</source>
+        <translation>الصورة ال&amp;سابقة</translation>
+    </message>
+    <message>
+        <source>&amp;Next Picture</source>
+        <translation>الصورة ال&amp;تالية</translation>
+    </message>
+    <message>
+        <source>&amp;Original Page</source>
+        <translation>الصفحة ال&amp;أصلية</translation>
+    </message>
+    <message>
+        <source>Share by &amp;E-mail</source>
+        <translation>مشاركة بال&amp;بريد الإلكتروني</translation>
+    </message>
+    <message>
+        <source>Share on Face&amp;book</source>
+        <translation>مشاركة على &amp;Facebook</translation>
+    </message>
+    <message>
+        <source>Share on &amp;Twitter</source>
+        <translation>مشاركة على &amp;Twitter</translation>
+    </message>
+    <message>
+        <source>De&amp;lete</source>
+        <translation>ح&amp;ذف</translation>
+    </message>
+    <message>
+        <source>Fit &amp;Window to Picture</source>
+        <translation>ملاءمة ال&amp;نافذة للصورة</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>ت&amp;كبير</translation>
+    </message>
+    <message>
+        <source>Zoom O&amp;ut</source>
+        <translation>تص&amp;غير</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Fit</source>
+        <translation>&amp;عرض كامل الصورة</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>ال&amp;حجم الفعلي</translation>
+    </message>
+    <message>
+        <source>Full Sc&amp;reen</source>
+        <translation>ملء ال&amp;شاشة</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إغلا&amp;ق</translation>
+    </message>
+    <message>
+        <source>This picture was downloaded using an older version of Moravel, so no detailed information is available.</source>
+        <translation>نُزّلت هذه الصورة بإصدار أقدم من Moravel، ولذلك لا تتوفر عنها معلومات مفصلة.</translation>
+    </message>
+    <message>
+        <source>Looking for more info...</source>
+        <translation>يجري البحث عن مزيد من المعلومات…</translation>
+    </message>
+    <message>
+        <source>%1 B</source>
+        <translation>%1 بايت</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 ك.ب</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 م.ب</translation>
+    </message>
+    <message>
+        <source>%1 (%2 x %3 pixels)</source>
+        <translation>⁨%1⁩ (%2 × %3 بكسل)</translation>
+    </message>
+    <message>
+        <source>%1 (%2 x %3 pixels, %4)</source>
+        <translation>⁨%1⁩ (%2 × %3 بكسل، %4)</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>⁨%1⁩ (%2)</translation>
+    </message>
+    <message>
+        <source>Moravel</source>
+        <translation>Moravel</translation>
+    </message>
+    <message>
+        <source>Set as desktop</source>
+        <translation>تعيين كخلفية</translation>
+    </message>
+    <message>
+        <source>New picture of the day</source>
+        <translation>صورة يوم جديدة</translation>
+    </message>
+    <message>
+        <source>The script ended with error %1.</source>
+        <translation>انتهى البرنامج النصي بالخطأ %1.</translation>
+    </message>
+    <message>
+        <source>bad request</source>
+        <translation>طلب غير صالح</translation>
+    </message>
+    <message>
+        <source>login required</source>
+        <translation>تسجيل الدخول مطلوب</translation>
+    </message>
+    <message>
+        <source>access denied</source>
+        <translation>الوصول مرفوض</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message>
+        <source>request timed out</source>
+        <translation>انتهت مهلة الطلب</translation>
+    </message>
+    <message>
+        <source>no longer there</source>
+        <translation>لم يعد موجودًا</translation>
+    </message>
+    <message>
+        <source>too many requests</source>
+        <translation>طلبات كثيرة جدًا</translation>
+    </message>
+    <message>
+        <source>internal error</source>
+        <translation>خطأ داخلي</translation>
+    </message>
+    <message>
+        <source>bad gateway</source>
+        <translation>بوابة معطوبة</translation>
+    </message>
+    <message>
+        <source>service unavailable</source>
+        <translation>الخدمة غير متاحة</translation>
+    </message>
+    <message>
+        <source>gateway timed out</source>
+        <translation>انتهت مهلة البوابة</translation>
+    </message>
+    <message>
+        <source>unexpected answer</source>
+        <translation>إجابة غير متوقعة</translation>
+    </message>
+    <message>
+        <source>request refused</source>
+        <translation>الطلب مرفوض</translation>
+    </message>
+    <message>
+        <source>server error</source>
+        <translation>خطأ في الخادم</translation>
+    </message>
+    <message>
+        <source>The server refers to a forbidden address.</source>
+        <translation>يحيل الخادم إلى عنوان محظور.</translation>
+    </message>
+    <message>
+        <source>The server answered with error %1 (%2).</source>
+        <translation>أجاب الخادم بالخطأ %1 (%2).</translation>
+    </message>
+    <message>
+        <source>The server %1 could not be found.</source>
+        <translation>تعذر العثور على الخادم ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The server %1 could not be reached.</source>
+        <translation>تعذر الوصول إلى الخادم ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>A secure connection to %1 could not be made.</source>
+        <translation>تعذر إنشاء اتصال آمن مع ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The proxy server could not be used.</source>
+        <translation>تعذر استخدام الخادم الوكيل.</translation>
+    </message>
+    <message>
+        <source>The answer is larger than %1.</source>
+        <translation>الإجابة أكبر من ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The server took too long to answer.</source>
+        <translation>استغرق الخادم وقتًا طويلًا للإجابة.</translation>
+    </message>
+    <message>
+        <source>The connection was lost before the answer was complete.</source>
+        <translation>انقطع الاتصال قبل اكتمال الإجابة.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s answer could not be understood.</source>
+        <translation>تعذر فهم إجابة الخادم.</translation>
+    </message>
+    <message>
+        <source>The address is not valid.</source>
+        <translation>العنوان غير صالح.</translation>
+    </message>
+    <message>
+        <source>Looking up caption...</source>
+        <translation>يجري جلب الشرح…</translation>
+    </message>
+    <message>
+        <source>Looking for new pic from %1...</source>
+        <translation>يجري البحث عن صورة جديدة من ⁨%1⁩…</translation>
+    </message>
+    <message>
+        <source>Double-click any thumbnail to set as desktop.</source>
+        <translation>انقر نقرًا مزدوجًا على أي صورة مصغرة لتعيينها خلفية.</translation>
+    </message>
+    <message>
+        <source>Downloading pic from %1: %2 of %3 KB</source>
+        <translation>يجري تنزيل صورة من ⁨%1⁩: %2 من %3 ك.ب</translation>
+    </message>
+    <message>
+        <source>Saving pic from %1...</source>
+        <translation>يجري حفظ صورة من ⁨%1⁩…</translation>
+    </message>
+    <message>
+        <source>(This text is long. It is in the clipboard as well: paste it here if its end is missing.)
+
+</source>
+        <translation>(هذا النص طويل، وهو موجود في الحافظة أيضًا: الصقه هنا إن كانت نهايته ناقصة.)
+
+</translation>
+    </message>
+    <message>
+        <source>The original web page could not be found.</source>
+        <translation>تعذر العثور على صفحة الويب الأصلية.</translation>
+    </message>
+    <message>
+        <source>Sorry, that picture could not be posted on Facebook.</source>
+        <translation>عذرًا، تعذر نشر هذه الصورة على Facebook.</translation>
+    </message>
+    <message>
+        <source>You will now be taken to your web browser with a link that will allow you to share this picture on Facebook.
+
+More information about the picture is in the clipboard for pasting into the Facebook messsage area.
+</source>
+        <translation>سيُفتح الآن متصفح الويب على رابط يتيح مشاركة هذه الصورة على Facebook.
+
+توجد معلومات أكثر عن الصورة في الحافظة، ويمكن لصقها في حقل الرسالة هناك.
+</translation>
+    </message>
+    <message>
+        <source>This message will not be shown again.</source>
+        <translation>لن تظهر هذه الرسالة مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>Sorry, that picture could not be posted on Twitter.</source>
+        <translation>عذرًا، تعذر نشر هذه الصورة على Twitter.</translation>
+    </message>
+    <message>
+        <source>Sorry, that picture could not be shared via email.</source>
+        <translation>عذرًا، تعذرت مشاركة هذه الصورة بالبريد الإلكتروني.</translation>
+    </message>
+    <message>
+        <source>Error creating Moravel folder.</source>
+        <translation>حدث خطأ عند إنشاء مجلد Moravel.</translation>
+    </message>
+    <message>
+        <source>Error creating Moravel thumbs folder.</source>
+        <translation>حدث خطأ عند إنشاء مجلد الصور المصغرة لبرنامج Moravel.</translation>
+    </message>
+    <message>
+        <source>Error creating Moravel support folder.</source>
+        <translation>حدث خطأ عند إنشاء مجلد بيانات Moravel.</translation>
+    </message>
+    <message>
+        <source>Error moving Moravel data file to support folder.</source>
+        <translation>حدث خطأ عند نقل ملف بيانات Moravel إلى مجلد البيانات.</translation>
+    </message>
+    <message>
+        <source>Error storing Moravel data.</source>
+        <translation>حدث خطأ عند حفظ بيانات Moravel.</translation>
+    </message>
+    <message>
+        <source>Deleted.
+
+Double-click to un-delete.</source>
+        <translation>حُذفت.
+
+انقر نقرًا مزدوجًا لاستعادتها.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::Browser</name>
+    <message>
+        <source>No pictures yet</source>
+        <translation>لا توجد صور بعد</translation>
+    </message>
+    <message>
+        <source>The pictures that Moravel gathers appear here, the newest first. Drop files or folders to look at others.</source>
+        <translation>تظهر هنا الصور التي يجمعها Moravel، الأحدث أولًا. أفلت ملفات أو مجلدات هنا لعرض صور أخرى.</translation>
+    </message>
+    <message>
+        <source>No pictures found</source>
+        <translation>لم يُعثر على صور</translation>
+    </message>
+    <message>
+        <source>No caption contains what you are looking for.</source>
+        <translation>لا يحتوي أي شرح على النص المطلوب.</translation>
+    </message>
+    <message>
+        <source>This source has no picture with such a caption.</source>
+        <translation>ليس لهذا المصدر صورة بشرح كهذا.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::BrowserSide</name>
+    <message>
+        <source>Picture &amp;Browser</source>
+        <translation>مجموعة ال&amp;صور</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::BrowserWindow</name>
+    <message>
+        <source>Picture Browser</source>
+        <translation>مجموعة الصور</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>المصدر</translation>
+    </message>
+    <message>
+        <source>Show the pictures of one source only</source>
+        <translation>عرض صور مصدر واحد فقط</translation>
+    </message>
+    <message>
+        <source>Show All</source>
+        <translation>عرض الكل</translation>
+    </message>
+    <message>
+        <source>Search captions</source>
+        <translation>البحث في الشروح</translation>
+    </message>
+    <message>
+        <source>Picture size</source>
+        <translation>حجم الصور</translation>
+    </message>
+    <message>
+        <source>Set as Desktop</source>
+        <translation>تعيين كخلفية</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>معلومات</translation>
+    </message>
+    <message>
+        <source>Show in File Manager</source>
+        <translation>إظهار في مدير الملفات</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures.</source>
+        <translation>
+            <numerusform>لا صور.</numerusform>
+            <numerusform>صورة واحدة.</numerusform>
+            <numerusform>صورتان.</numerusform>
+            <numerusform>%Ln صور.</numerusform>
+            <numerusform>%Ln صورة.</numerusform>
+            <numerusform>%Ln صورة.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>moravel::CellWidget</name>
+    <message>
+        <source>Current desktop</source>
+        <translation>الخلفية الحالية</translation>
+    </message>
+    <message>
+        <source>Previous desktop</source>
+        <translation>الخلفية السابقة</translation>
+    </message>
+    <message>
+        <source>New desktop</source>
+        <translation>خلفية جديدة</translation>
+    </message>
+    <message>
+        <source>More info</source>
+        <translation>مزيد من المعلومات</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::DatePickerWidget</name>
+    <message>
+        <source>Date of the pictures</source>
+        <translation>تاريخ الصور</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::DesktopMenu</name>
+    <message>
+        <source>Change &amp;Every</source>
+        <translation>&amp;تغيير الخلفية</translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation>أبدًا</translation>
+    </message>
+    <message>
+        <source>5 Minutes</source>
+        <translation>كل خمس دقائق</translation>
+    </message>
+    <message>
+        <source>15 Minutes</source>
+        <translation>كل ربع ساعة</translation>
+    </message>
+    <message>
+        <source>30 Minutes</source>
+        <translation>كل نصف ساعة</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>كل ساعة</translation>
+    </message>
+    <message>
+        <source>2 Hours</source>
+        <translation>كل ساعتين</translation>
+    </message>
+    <message>
+        <source>4 Hours</source>
+        <translation>كل أربع ساعات</translation>
+    </message>
+    <message>
+        <source>8 Hours</source>
+        <translation>كل ثماني ساعات</translation>
+    </message>
+    <message>
+        <source>24 Hours</source>
+        <translation>كل أربع وعشرين ساعة</translation>
+    </message>
+    <message>
+        <source>&amp;Sizing</source>
+        <translation>&amp;حجم الصورة</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Fit to Screen</source>
+        <translation>احتواء ضمن الشاشة</translation>
+    </message>
+    <message>
+        <source>Fill Screen</source>
+        <translation>ملء الشاشة</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>توسيط</translation>
+    </message>
+    <message>
+        <source>All S&amp;creens</source>
+        <translation>جميع ال&amp;شاشات</translation>
+    </message>
+    <message>
+        <source>All Virtual &amp;Desktops</source>
+        <translation>جميع أسطح المكتب ال&amp;افتراضية</translation>
+    </message>
+    <message>
+        <source>System Desktop Se&amp;ttings…</source>
+        <translation>إعدادات ال&amp;نظام للخلفية…</translation>
+    </message>
+    <message>
+        <source>Change Desktop &amp;Now</source>
+        <translation>تغيير ال&amp;خلفية الآن</translation>
+    </message>
+    <message>
+        <source>&amp;Back to Previous Desktop</source>
+        <translation>ال&amp;عودة إلى الخلفية السابقة</translation>
+    </message>
+    <message>
+        <source>&amp;Keep This Desktop for 1 Hour</source>
+        <translation>إ&amp;بقاء هذه الخلفية ساعة واحدة</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::GridPanel</name>
+    <message>
+        <source>The picture service does not answer</source>
+        <translation>خدمة الصور لا تجيب</translation>
+    </message>
+    <message>
+        <source>No list of sources could be loaded. Moravel shows pictures as soon as the service can be reached.</source>
+        <translation>تعذر تحميل قائمة المصادر. سيعرض Moravel الصور حالما يصبح الوصول إلى الخدمة ممكنًا.</translation>
+    </message>
+    <message>
+        <source>&amp;Try Again</source>
+        <translation>إعادة المحا&amp;ولة</translation>
+    </message>
+    <message>
+        <source>No source is switched on</source>
+        <translation>لم يُشغَّل أي مصدر</translation>
+    </message>
+    <message>
+        <source>Switch on the sources that you want to see in the Sources menu.</source>
+        <translation>شغّل المصادر التي تريد رؤيتها من قائمة «المصادر».</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::GridView</name>
+    <message>
+        <source>Pictures of the day</source>
+        <translation>صور اليوم</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::LargePicWindow</name>
+    <message>
+        <source>This file cannot be shown as a picture.</source>
+        <translation>لا يمكن عرض هذا الملف كصورة.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>التنزيل</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::MainWindow</name>
+    <message>
+        <source>Show &amp;Large Picture</source>
+        <translation>عرض الصورة &amp;كبيرة</translation>
+    </message>
+    <message>
+        <source>Moravel</source>
+        <translation>Moravel</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Day</source>
+        <translation>اليوم ال&amp;سابق</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>اليوم السابق</translation>
+    </message>
+    <message>
+        <source>&amp;Next Day</source>
+        <translation>اليوم ال&amp;تالي</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>اليوم التالي</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>الي&amp;وم</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>&amp;Sources</source>
+        <translation>الم&amp;صادر</translation>
+    </message>
+    <message>
+        <source>&amp;Desktop</source>
+        <translation>&amp;سطح المكتب</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>مساع&amp;دة</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>إ&amp;غلاق</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>إن&amp;هاء</translation>
+    </message>
+    <message>
+        <source>Show &amp;Side Bar</source>
+        <translation>إظهار الشريط ال&amp;جانبي</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>ملء ال&amp;شاشة</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::PicDetails</name>
+    <message>
+        <source>About this picture</source>
+        <translation>عن هذه الصورة</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::ShareSide</name>
+    <message>
+        <source>There is no news.</source>
+        <translation>لا توجد أخبار.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::SideBar</name>
+    <message>
+        <source>&amp;Keep for 1 hour</source>
+        <translation>إ&amp;بقاؤها ساعة واحدة</translation>
+    </message>
+    <message>
+        <source>Read the &amp;News</source>
+        <translation>&amp;قراءة الأخبار</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::SourceGrid</name>
+    <message>
+        <source>Switch &amp;All On</source>
+        <translation>تشغيل ال&amp;كل</translation>
+    </message>
+    <message>
+        <source>Switch All &amp;Off</source>
+        <translation>إ&amp;يقاف الكل</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::Spinner</name>
+    <message>
+        <source>Loading</source>
+        <translation>يجري التحميل</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::SplitView</name>
+    <message>
+        <source>Double-click to hide or show the side bar.</source>
+        <translation>انقر نقرًا مزدوجًا لإخفاء الشريط الجانبي أو إظهاره.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::ThumbView</name>
+    <message>
+        <source>Double-click to set as desktop.</source>
+        <translation>انقر نقرًا مزدوجًا لتعيينها خلفية.</translation>
+    </message>
+    <message>
+        <source>Looking for new pic...</source>
+        <translation>يجري البحث عن صورة جديدة…</translation>
+    </message>
+    <message>
+        <source>Delete this pic.</source>
+        <translation>حذف هذه الصورة.</translation>
+    </message>
+    <message>
+        <source>Change to a new random desktop now.</source>
+        <translation>التغيير الآن إلى خلفية عشوائية جديدة.</translation>
+    </message>
+    <message>
+        <source>Go back to the previous desktop pic.</source>
+        <translation>العودة إلى الخلفية السابقة.</translation>
+    </message>
+    <message>
+        <source>See more info about this pic.</source>
+        <translation>عرض مزيد من المعلومات عن هذه الصورة.</translation>
+    </message>
+    <message>
+        <source>Refresh the data for this pic.</source>
+        <translation>تحديث بيانات هذه الصورة.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::ToolTips</name>
+    <message>
+        <source>Show T&amp;ool Tips</source>
+        <translation>إظهار التلمي&amp;حات</translation>
+    </message>
+    <message>
+        <source>Click here to see the pic in it&apos;s original web page.</source>
+        <translation>انقر هنا لرؤية الصورة في صفحة الويب الأصلية.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::WelcomePanel</name>
+    <message>
+        <source>Welcome to Moravel</source>
+        <translation>مرحبًا بك في Moravel</translation>
+    </message>
+    <message>
+        <source>Choose the sources whose pictures of the day you want to see. You can change this at any time in the Sources menu.</source>
+        <translation>اختر المصادر التي تريد رؤية صور اليوم منها. يمكن تغيير هذا الاختيار في أي وقت من قائمة «المصادر».</translation>
+    </message>
+    <message>
+        <source>Show &amp;Pictures</source>
+        <translation>عرض الصو&amp;ر</translation>
+    </message>
+</context>
+</TS>
