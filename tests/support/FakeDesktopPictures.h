@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Answers.h"
+
 #include "platform/DesktopPictures.h"
 
 #include <QHash>
 #include <QSet>
 
-#include <deque>
-
 namespace moravel::testing {
 
 /// A desktop with two screens. What is set shows at once, and is answered at deliver().
-class FakeDesktopPictures : public DesktopPictures
+class FakeDesktopPictures : public DesktopPictures, public Answers
 {
 public:
     struct Set
@@ -37,24 +37,12 @@ public:
         const bool fails = refusing.contains(screen);
         if (!fails && !deaf)
             shown[screen] = url;
-        m_answers.push_back([done, fails, screen] {
+        later([done, fails, screen] {
             if (fails)
                 done(tl::make_unexpected(DesktopError{screen, QStringLiteral("refused")}));
             else
                 done({});
         });
-    }
-
-    /// Answers what was set. Returns whether there was anything.
-    bool deliver()
-    {
-        const bool any = !m_answers.empty();
-        while (!m_answers.empty()) {
-            const auto answer = std::move(m_answers.front());
-            m_answers.pop_front();
-            answer();
-        }
-        return any;
     }
 
     DesktopAbilities can{true, true};
@@ -64,9 +52,6 @@ public:
     QSet<QString> refusing; ///< Screens that fail.
     bool deaf = false; ///< Agrees and does nothing.
     QList<Set> sets;
-
-private:
-    std::deque<std::function<void()>> m_answers;
 };
 
 } // namespace moravel::testing

@@ -1,21 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Answers.h"
+
 #include "platform/Images.h"
 
 #include <QFile>
 
-#include <deque>
-
 namespace moravel::testing {
 
 /// Images whose files are pictures when they begin with "IMG". Results come at deliver().
-class FakeImages : public Images
+class FakeImages : public Images, public Answers
 {
 public:
     void load(const QString &path, QSize, std::function<void(QImage)> done) override
     {
-        m_waiting.push_back([done, ok = isPicture(path)] {
+        loads.append(path);
+        later([done, ok = isPicture(path)] {
             QImage image(4, 3, QImage::Format_RGB32);
             image.fill(Qt::darkCyan);
             done(ok ? image : QImage());
@@ -34,7 +35,7 @@ public:
         auto handle = std::make_unique<Handle>();
         ++decodings;
         const std::weak_ptr<int> alive = handle->alive;
-        m_waiting.push_back([this, done, box, alive, ok = isPicture(path)] {
+        later([this, done, box, alive, ok = isPicture(path)] {
             if (alive.expired())
                 return;
             const bool large =
@@ -49,7 +50,7 @@ public:
 
     void check(const QString &path, std::function<void(QSize)> done) override
     {
-        m_waiting.push_back([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
+        later([done, ok = isPicture(path)] { done(ok ? QSize(4, 3) : QSize()); });
     }
 
     void size(const QString &path, std::function<void(QSize)> done) override
@@ -72,17 +73,7 @@ public:
 
     QSize pictureSize{4, 3}; ///< Of the pictures that decode() gives.
     int decodings = 0;
-
-    bool deliver()
-    {
-        const bool any = !m_waiting.empty();
-        while (!m_waiting.empty()) {
-            const auto fn = std::move(m_waiting.front());
-            m_waiting.pop_front();
-            fn();
-        }
-        return any;
-    }
+    QStringList loads; ///< What load() was asked for.
 
 private:
     static bool isPicture(const QString &path)
@@ -90,8 +81,6 @@ private:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) && file.read(3) == "IMG";
     }
-
-    std::deque<std::function<void()>> m_waiting;
 };
 
 } // namespace moravel::testing
