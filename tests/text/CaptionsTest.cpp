@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "text/Captions.h"
 
+#include "support/Test.h"
+
 #include <QLocale>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
-
-namespace moravel {
 namespace {
 
 TEST(Captions, AreMadeReadable)
 {
-    struct
-    {
-        QString caption, expected;
-    } const cases[] = {
+    const Table<QString, QString> cases{
         {u""_s, u""_s},
         {u"SUNSET_OVER_THE_BAY"_s, u"Sunset Over The Bay"_s},
         {u"Sunset_over THE_BAY"_s, u"Sunset over THE BAY"_s},
@@ -31,10 +25,10 @@ TEST(Captions, AreMadeReadable)
     };
 
     QLocale::setDefault(QLocale(QLocale::Turkish));
-    for (const auto &c : cases) {
-        SCOPED_TRACE(qPrintable(c.caption));
-        EXPECT_EQ(normalisedCaption(c.caption), c.expected);
-        EXPECT_EQ(captionForCell(c.caption), c.expected);
+    for (const auto &[caption, expected] : cases) {
+        SCOPED_TRACE(qPrintable(caption));
+        EXPECT_EQ(normalisedCaption(caption), expected);
+        EXPECT_EQ(captionForCell(caption), expected);
     }
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 }
@@ -57,4 +51,3 @@ TEST(Captions, OfAbsurdLengthStayAsTheyAre)
 }
 
 } // namespace
-} // namespace moravel

@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "text/InfoText.h"
 
+#include "support/Test.h"
+
 #include "text/InfoTextRules.h"
-#include "text/SlowText.h"
+#include "text/RandomText.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
 TEST(InfoText, KeepsWhatIsAllowedAndNothingElse)
@@ -49,18 +48,18 @@ TEST(InfoText, KeepsWhatIsAllowedAndNothingElse)
     for (const auto &[html, expected] : cases) {
         const QString result = sanitisedInfoText(QString::fromUtf8(html));
         EXPECT_EQ(result, QString::fromUtf8(expected)) << html;
-        EXPECT_EQ(testing::faultOfInfoText(result), QString()) << html;
+        EXPECT_EQ(faultOfInfoText(result), QString()) << html;
     }
 }
 
 TEST(InfoText, LinksLeadToPagesOnly)
 {
-    const QString page = QStringLiteral("<a href=\"http://x.org/a%20b?c=1&amp;d=%22\">");
-    const QString update = QStringLiteral("<a href=\"#updatePODCaption\">");
+    const QString page = u"<a href=\"http://x.org/a%20b?c=1&amp;d=%22\">"_s;
+    const QString update = u"<a href=\"#updatePODCaption\">"_s;
     const std::pair<const char *, QString> cases[] = {
         {"href=\"http://x.org/a b?c=1&amp;d=&quot;\"", page},
         {"title='>' HREF = ' http://x.org/a%20b?c=1&d=\"'", page},
-        {"href=https://x.org/ href=javascript:x", QStringLiteral("<a href=\"https://x.org/\">")},
+        {"href=https://x.org/ href=javascript:x", u"<a href=\"https://x.org/\">"_s},
         {"href=#updatePODCaption", update},
         {"href='about:blank#updatePODCaption'", update},
         {"href=javascript:x()", {}},
@@ -75,11 +74,10 @@ TEST(InfoText, LinksLeadToPagesOnly)
         {"", {}},
     };
     for (const auto &[attributes, tag] : cases) {
-        const QString html = QStringLiteral("<a %1>l</a>").arg(QString::fromUtf8(attributes));
-        const QString expected =
-            tag.isEmpty() ? QStringLiteral("l") : tag + QStringLiteral("l</a>");
+        const QString html = u"<a %1>l</a>"_s.arg(QString::fromUtf8(attributes));
+        const QString expected = tag.isEmpty() ? u"l"_s : tag + u"l</a>"_s;
         EXPECT_EQ(sanitisedInfoText(html), expected);
-        EXPECT_EQ(testing::faultOfInfoText(sanitisedInfoText(html)), QString()) << attributes;
+        EXPECT_EQ(faultOfInfoText(sanitisedInfoText(html)), QString()) << attributes;
     }
 }
 
@@ -95,20 +93,19 @@ std::unique_ptr<QTextDocument> shown(const QString &html)
 
 TEST(InfoText, HostileTextsBecomeSmallDocuments)
 {
-    const auto tables =
-        shown(QStringLiteral("<table><tr><td>a</td><td>").repeated(20) + QStringLiteral("deep")
-              + QStringLiteral("</td></tr></table>").repeated(20));
+    const auto tables = shown(u"<table><tr><td>a</td><td>"_s.repeated(20) + u"deep"_s
+                              + u"</td></tr></table>"_s.repeated(20));
     EXPECT_TRUE(tables->rootFrame()->childFrames().isEmpty());
-    EXPECT_TRUE(tables->toPlainText().trimmed().endsWith(QStringLiteral("deep")));
+    EXPECT_TRUE(tables->toPlainText().trimmed().endsWith(u"deep"_s));
 
     const auto word = shown(QString(1'000'000, u'x'));
     EXPECT_GT(word->firstBlock().layout()->lineCount(), 100);
 
     QString links;
     for (int i = 0; i < 10'000; ++i)
-        links += QStringLiteral("<a href='http://x.org/%1'>%1</a> ").arg(i);
+        links += u"<a href='http://x.org/%1'>%1</a> "_s.arg(i);
     const QString some = shown(links)->toPlainText();
-    EXPECT_TRUE(some.startsWith(QStringLiteral("0 1 2 3 ")));
+    EXPECT_TRUE(some.startsWith(u"0 1 2 3 "_s));
     EXPECT_GT(some.size(), 2'000);
 
     for (const char *nested :
@@ -121,19 +118,16 @@ TEST(InfoText, HostileTextsBecomeSmallDocuments)
 TEST(InfoText, AnyTextIsMadeClean)
 {
     const QStringList alphabet =
-        QStringLiteral(
-            "<b> </b> <i> <p> </p> <ul> </ul> <li> <blockquote> </blockquote> <br> <div> <h1> "
-            "</h1> <pre> <a|href=http://x.y/> </a> <script> </script> <!-- --> < > & &lt; &#x200B; "
-            "wwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwww x | \" é")
-            .split(u' ')
-            .replaceInStrings(QStringLiteral("|"), QStringLiteral(" "));
+        u"<b> </b> <i> <p> </p> <ul> </ul> <li> <blockquote> </blockquote> <br> <div> <h1> "
+        "</h1> <pre> <a|href=http://x.y/> </a> <script> </script> <!-- --> < > & &lt; &#x200B; "
+        "wwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwwww x | \" é"_s.split(u' ')
+            .replaceInStrings(u"|"_s, u" "_s);
     std::mt19937 random(7);
     for (int round = 0; round < 2'000; ++round) {
-        const QString html = testing::randomText(random, alphabet, round % 100 ? 30 : 4'000);
-        const QString fault = testing::faultOfInfoText(sanitisedInfoText(html));
+        const QString html = randomText(random, alphabet, round % 100 ? 30 : 4'000);
+        const QString fault = faultOfInfoText(sanitisedInfoText(html));
         ASSERT_EQ(fault, QString()) << qPrintable(html.left(500));
     }
 }
 
 } // namespace
-} // namespace moravel
