@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "base/Dates.h"
 
+#include "support/Test.h"
+
 #include <cstdlib>
 #include <ctime>
-#include <gtest/gtest.h>
 #include <unicode/locid.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::Dates;
 
 namespace {
 
@@ -36,27 +34,22 @@ TEST(DatesTest, writesTheFormsOfADayInEachLanguage)
 {
     const QDateTime evening(QDate(2011, 7, 4), QTime(23, 59, 59));
 
-    const struct
-    {
-        const char *locale;
-        QString local;
-    } cases[] = {
+    const Table<const char *, QString> cases{
         {"en_US", u"July 4, 2011"_s},      {"en_GB.UTF-8", u"4 July 2011"_s},
         {"de_DE@euro", u"4. Juli 2011"_s}, {"ja_JP", u"2011年7月4日"_s},
         {"th_TH", u"4 กรกฎาคม 2554"_s},    {"fa_IR", u"۱۳ تیر ۱۳۹۰"_s},
         {"ar_SA", u"٣ شعبان ١٤٣٢ هـ"_s},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.locale);
-        const Dates dates(QString::fromLatin1(c.locale));
-        EXPECT_EQ(dates.longDate(evening), c.local);
+    for (const auto &[locale, local] : cases) {
+        SCOPED_TRACE(locale);
+        const Dates dates(QString::fromLatin1(locale));
+        EXPECT_EQ(dates.longDate(evening), local);
         EXPECT_EQ(dates.shortDate(evening), u"7/4/2011"_s);
-        EXPECT_EQ(dates.shortDateFromLocalDate(c.local), u"7/4/2011"_s);
-        EXPECT_EQ(dates.localDateFromShortDate(u"7/4/2011"_s), c.local);
-        EXPECT_EQ(dates.localDateFromSqlDate(u"20110704"_s), c.local);
+        EXPECT_EQ(dates.shortDateFromLocalDate(local), u"7/4/2011"_s);
+        EXPECT_EQ(dates.localDateFromShortDate(u"7/4/2011"_s), local);
+        EXPECT_EQ(dates.localDateFromSqlDate(u"20110704"_s), local);
         EXPECT_EQ(dates.sqlDateFromShortDate(u"7/4/2011"_s), u"20110704"_s);
-        EXPECT_EQ(dates.dateFromLocalString(c.local), QDate(2011, 7, 4).startOfDay());
+        EXPECT_EQ(dates.dateFromLocalString(local), QDate(2011, 7, 4).startOfDay());
     }
     EXPECT_EQ(Dates(u"en_US"_s).sqlDateFromShortDate(u"1/2/2012"_s), u"20120102"_s);
     EXPECT_TRUE(Dates(u"de_DE"_s).shortDateFromLocalDate(u"July 4, 2011"_s).isNull());
@@ -121,12 +114,7 @@ TEST(DatesTest, followsTheEnvironment)
 
 TEST(DatesTest, daysStartWhereTheirMidnightIsMissing)
 {
-    const struct
-    {
-        const char *zone;
-        QDate day;
-        QTime start;
-    } cases[] = {
+    const Table<const char *, QDate, QTime> cases{
         {"Europe/Berlin", QDate(2011, 3, 27), QTime(0, 0)},
         {"America/Sao_Paulo", QDate(2018, 11, 4), QTime(1, 0)},
         {"Asia/Beirut", QDate(2021, 3, 28), QTime(1, 0)},
@@ -134,14 +122,14 @@ TEST(DatesTest, daysStartWhereTheirMidnightIsMissing)
     };
 
     const Dates dates(u"en_US"_s);
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.zone);
-        const InZone zone(c.zone);
-        const QString written = u"%1/%2/%3"_s.arg(c.day.month()).arg(c.day.day()).arg(c.day.year());
+    for (const auto &[name, day, start] : cases) {
+        SCOPED_TRACE(name);
+        const InZone zone(name);
+        const QString written = u"%1/%2/%3"_s.arg(day.month()).arg(day.day()).arg(day.year());
         const auto parsed = dates.dateFromShortString(written);
         ASSERT_TRUE(parsed);
-        EXPECT_EQ(parsed->date(), c.day);
-        EXPECT_EQ(parsed->time(), c.start);
+        EXPECT_EQ(parsed->date(), day);
+        EXPECT_EQ(parsed->time(), start);
         EXPECT_EQ(dates.shortDate(*parsed), written);
         EXPECT_EQ(dates.shortDateFromLocalDate(dates.longDate(*parsed)), written);
         EXPECT_EQ(dates.dateFromLocalString(dates.localDateFromShortDate(written)), parsed);

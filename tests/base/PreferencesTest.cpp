@@ -2,15 +2,11 @@
 #include "base/Preferences.h"
 
 #include "support/FakePlatform.h"
+#include "support/Test.h"
 
 #include "base/DatePicker.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using testing::FakeDefaults;
 
 TEST(Preferences, firstStart)
 {
@@ -54,8 +50,8 @@ TEST(Preferences, choicesAreStoredAtOnce)
     EXPECT_FALSE(again.doSetAllScreens());
     EXPECT_EQ(again.readZoomPrefs(), 0.1F);
     EXPECT_EQ(again.readSourcePrefs(), QStringList{QString()});
-    store.setInteger(QStringLiteral("DesktopSize"), 0);
-    store.setInteger(QStringLiteral("ChangeFrequency"), qint64(1) << 40);
+    store.setInteger(u"DesktopSize"_s, 0);
+    store.setInteger(u"ChangeFrequency"_s, qint64(1) << 40);
     again.readSizeSetting();
     again.readChangeFrequency();
     EXPECT_EQ(again.desktopSizeSetting(), 1000);
@@ -79,4 +75,3 @@ TEST(DatePicker, neverAfterTheMaximum)
 }
 
 } // namespace
-} // namespace moravel

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "notify/GrowlAlert.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
+#include "support/Test.h"
 
 namespace {
 
@@ -30,20 +28,12 @@ TEST_F(GrowlAlertTest, registersBothNamesAsShown)
 {
     ASSERT_EQ(notifications.delegate, &alert);
     const auto registration = alert.registrationDictionaryForGrowl();
-    const QStringList names{QStringLiteral("Moravel"), QStringLiteral("Moravel error")};
+    const QStringList names{u"Moravel"_s, u"Moravel error"_s};
     EXPECT_EQ(registration.ticketVersion, 1);
     EXPECT_EQ(registration.allNotifications, names);
     EXPECT_EQ(registration.defaultNotifications, names);
-}
-
-TEST_F(GrowlAlertTest, takesItselfOffAtTheEnd)
-{
-    FakeNotifications other;
-    {
-        const GrowlAlert shortLived(other, {});
-        EXPECT_EQ(other.delegate, &shortLived);
-    }
-    EXPECT_EQ(other.delegate, nullptr);
+    std::make_unique<GrowlAlert>(notifications, nullptr).reset();
+    EXPECT_EQ(notifications.delegate, nullptr) << "takes itself off at its end";
 }
 
 TEST_F(GrowlAlertTest, postsEachArrivedPictureWithoutAContext)
@@ -51,43 +41,40 @@ TEST_F(GrowlAlertTest, postsEachArrivedPictureWithoutAContext)
     const ThumbImages images;
     const ThumbCommands commands;
     ThumbView cell(ThumbView::GridTag, images, commands, QDateTime());
-    cell.showSource(QStringLiteral("Sky & Stars"), QStringLiteral("sky"));
-    cell.setDateString(QStringLiteral("July 4, 2011"));
-    cell.showCaption(QStringLiteral("100%2 %1 <b>Moon</b>"));
-    alert.newPicture(cell, QStringLiteral("/p/one.jpg"));
-    alert.newPicture(cell, QStringLiteral("/p/two.jpg"));
+    cell.showSource(u"Sky & Stars"_s, u"sky"_s);
+    cell.setDateString(u"July 4, 2011"_s);
+    cell.showCaption(u"100%2 %1 <b>Moon</b>"_s);
+    alert.newPicture(cell, u"/p/one.jpg"_s);
+    alert.newPicture(cell, u"/p/two.jpg"_s);
 
     ASSERT_EQ(notifications.posted.size(), 2);
     const Notification &first = notifications.posted.first();
-    EXPECT_EQ(first.title, QStringLiteral("New picture of the day"));
-    EXPECT_EQ(first.description,
-              QStringLiteral("Sky & Stars\nJuly 4, 2011\n") + cell.captionString());
-    EXPECT_EQ(first.name, QStringLiteral("Moravel"));
-    EXPECT_EQ(first.picture, QStringLiteral("/p/one.jpg"));
+    EXPECT_EQ(first.title, u"New picture of the day"_s);
+    EXPECT_EQ(first.description, u"Sky & Stars\nJuly 4, 2011\n"_s + cell.captionString());
+    EXPECT_EQ(first.name, u"Moravel"_s);
+    EXPECT_EQ(first.picture, u"/p/one.jpg"_s);
     EXPECT_EQ(first.priority, 0);
     EXPECT_FALSE(first.sticky);
     EXPECT_FALSE(first.clickContext);
-    EXPECT_EQ(alert.lastPicFile(), QStringLiteral("/p/two.jpg"));
+    EXPECT_EQ(alert.lastPicFile(), u"/p/two.jpg"_s);
 }
 
 TEST_F(GrowlAlertTest, onlyItsOwnContextSetsTheNewestPictureAsDesktop)
 {
-    alert.setLastPicFile(QStringLiteral("/p/one.jpg"));
-    alert.growlAlertWithClickContext(QStringLiteral("m"), QStringLiteral("t"));
+    alert.setLastPicFile(u"/p/one.jpg"_s);
+    alert.growlAlertWithClickContext(u"m"_s, u"t"_s);
     ASSERT_EQ(notifications.posted.size(), 1);
     const auto context = notifications.posted.first().clickContext;
-    EXPECT_EQ(context, QStringLiteral("growlClickContext"));
-    alert.setLastPicFile(QStringLiteral("/p/two.jpg"));
+    EXPECT_EQ(context, u"growlClickContext"_s);
+    alert.setLastPicFile(u"/p/two.jpg"_s);
 
     for (const auto &other : {std::optional<QString>(), std::optional(QString()),
-                              std::optional(QStringLiteral("growlclickcontext"))}) {
+                              std::optional(u"growlclickcontext"_s)}) {
         notifications.delegate->growlNotificationWasClicked(other);
         EXPECT_TRUE(desktops.isEmpty());
     }
     notifications.delegate->growlNotificationWasClicked(context);
-    EXPECT_EQ(desktops, QStringList{QStringLiteral("/p/two.jpg")});
+    EXPECT_EQ(desktops, QStringList{u"/p/two.jpg"_s});
 }
 
 } // namespace
-
-} // namespace moravel
