@@ -1,14 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
-
-#include <QDir>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::Folders;
-using moravel::testing::StoreWorld;
-using moravel::testing::TempHome;
+#include "support/Test.h"
 
 TEST(FoldersTest, makesWhatIsAskedForAgainAndAgain)
 {
@@ -29,35 +21,25 @@ TEST(FoldersTest, makesWhatIsAskedForAgainAndAgain)
 
 TEST(FoldersTest, alertsWhereAFolderCannotBeMade)
 {
-    const struct
-    {
-        QString (Folders::*operation)();
-        const char *obstacle; ///< A plain file where a folder belongs.
-        QStringList alerts;
-    } cases[] = {
-        {&Folders::moravelFolder,
-         "Pictures/Moravel",
-         {u"Error creating Moravel folder.|File exists"_s}},
-        {&Folders::moravelFolder,
-         "Pictures",
-         {u"Error creating Moravel folder.|Not a directory"_s}},
-        {&Folders::thumbsFolder,
-         "Pictures/Moravel/thumbs",
-         {u"Error creating Moravel thumbs folder.|File exists"_s}},
-        {&Folders::moravelDataFile,
-         "share/Moravel",
-         {u"Error creating Moravel support folder.|File exists"_s}},
-        {&Folders::moravelNewsFile, "share/Moravel", {}},
-        {&Folders::sourcesFile, "share", {}},
+    // The obstacle is a plain file where a folder belongs.
+    using Operation = QString (Folders::*)();
+    const Table<Operation, const char *, const char *> cases{
+        {&Folders::moravelFolder, "Pictures/Moravel", "Error creating Moravel folder.|File exists"},
+        {&Folders::moravelFolder, "Pictures", "Error creating Moravel folder.|Not a directory"},
+        {&Folders::thumbsFolder, "Pictures/Moravel/thumbs",
+         "Error creating Moravel thumbs folder.|File exists"},
+        {&Folders::moravelDataFile, "share/Moravel",
+         "Error creating Moravel support folder.|File exists"},
+        {&Folders::moravelNewsFile, "share/Moravel", ""},
+        {&Folders::sourcesFile, "share", ""},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.obstacle);
+    for (const auto &[operation, obstacle, alerts] : cases) {
+        SCOPED_TRACE(obstacle);
         StoreWorld w;
-        w.home->write(QString::fromLatin1(c.obstacle), "kept");
-        EXPECT_EQ((w.folders.*c.operation)(), QString());
-        EXPECT_EQ(w.takeAlerts(), c.alerts);
-        EXPECT_EQ(TempHome::read(w.home->path(QString::fromLatin1(c.obstacle))), "kept");
+        const QString file = w.home->write(QLatin1String(obstacle), "kept");
+        EXPECT_EQ((w.folders.*operation)(), QString());
+        EXPECT_EQ(w.takeAlerts().join(u'\n'), QLatin1String(alerts));
+        EXPECT_EQ(TempHome::read(file), "kept");
     }
 }
 

@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Kills a process that stores records, at random moments, and looks at what it leaves.
 #include "StoreWorld.h"
+#include "support/Test.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <chrono>
 #include <csignal>
-#include <gtest/gtest.h>
 #include <random>
 #include <sys/wait.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::testing::Store;
 
 namespace {
 

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
+#include "support/Test.h"
 
 #include "store/MacRoman.h"
 
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::testing::StoreWorld;
-namespace macroman = moravel::macroman;
+namespace macroman = macroman;
 
 TEST(LegacyCaptionsTest, everyByteOfTheCharacterSetComesBack)
 {
@@ -33,11 +30,7 @@ TEST(LegacyCaptionsTest, convertsALineToARecord)
                     "20050105\tOther\t\tno file\n20050106\tOther\tlf.jpg\tc");
     const QString folder = w.folders.moravelFolder();
 
-    const struct
-    {
-        QString file;
-        QString record;
-    } cases[] = {
+    const Table<QString, QString> cases{
         {u"one.jpg"_s, u"20050101\tb\t%1one.jpg\t%1one.jpg\t\tBäume\t"_s},
         {u"two.jpg"_s, u"20050102\t\t%1two.jpg\t%1two.jpg\t\tCaption with one.jpg in it\t"_s},
         {u"three.jpg"_s, QString()},
@@ -47,10 +40,9 @@ TEST(LegacyCaptionsTest, convertsALineToARecord)
         {u"ne.jpg"_s, QString()},
         {u""_s, QString()},
     };
-
-    for (const auto &c : cases)
-        EXPECT_EQ(w.legacy.oldStoredDataForFile(c.file), QString(c.record).replace(u"%1"_s, folder))
-            << qPrintable(c.file);
+    for (const auto &[file, record] : cases)
+        EXPECT_EQ(w.legacy.oldStoredDataForFile(file), QString(record).replace(u"%1"_s, folder))
+            << qPrintable(file);
     EXPECT_TRUE(w.legacy.readOldTextData().startsWith(u"20050101\tAst\tone.jpg\tBäume"_s));
 }
 
@@ -59,12 +51,7 @@ TEST(LegacyCaptionsTest, removesTheFirstLineOfAKeyAndItsCopies)
     const QByteArray astro = "20050101\tAstro\ta.jpg\tB\x8Aume";
     const QByteArray astronomy = "20050101\tAstronomy\tb.jpg\tlater";
 
-    const struct
-    {
-        QByteArray file;
-        const char *source;
-        QByteArray result;
-    } cases[] = {
+    const Table<QByteArray, const char *, QByteArray> cases{
         {astro + '\r' + astronomy + '\r', "a", astronomy + '\r'},
         {astronomy + '\r' + astro + '\r', "a", astro + '\r'}, // a longer name that comes first
         {astronomy + '\r' + astro + '\r', "y", astro + '\r'},
@@ -74,23 +61,22 @@ TEST(LegacyCaptionsTest, removesTheFirstLineOfAKeyAndItsCopies)
         {astro + '\r', "moon", astro + '\r'},
         {"x\n" + astro + '\r', "a", "x\n" + astro + '\r'},
     };
-
-    for (const auto &c : cases) {
+    for (const auto &[file, source, result] : cases) {
         StoreWorld w;
         w.sourceNames = {{u"a"_s, u"Astro"_s},
                          {u"y"_s, u"Astronomy"_s},
                          {u"empty"_s, u""_s},
                          {u"moon"_s, u"月"_s}};
-        w.setLegacyData(c.file);
-        w.legacy.deleteOldDataFor(QString::fromUtf8(c.source), u"1/2/2005"_s);
-        w.legacy.deleteOldDataFor(QString::fromUtf8(c.source), u"no day"_s);
+        w.setLegacyData(file);
+        w.legacy.deleteOldDataFor(QString::fromUtf8(source), u"1/2/2005"_s);
+        w.legacy.deleteOldDataFor(QString::fromUtf8(source), u"no day"_s);
         EXPECT_EQ(w.files.writes, 0) << "nothing matched, nothing is written";
         w.files.writeError = u"No space left on device"_s;
-        w.legacy.deleteOldDataFor(QString::fromUtf8(c.source), u"1/1/2005"_s);
-        EXPECT_EQ(w.legacyData(), c.file);
+        w.legacy.deleteOldDataFor(QString::fromUtf8(source), u"1/1/2005"_s);
+        EXPECT_EQ(w.legacyData(), file);
         w.files.writeError.clear();
-        w.legacy.deleteOldDataFor(QString::fromUtf8(c.source), u"1/1/2005"_s);
-        EXPECT_EQ(w.legacyData(), c.result);
+        w.legacy.deleteOldDataFor(QString::fromUtf8(source), u"1/1/2005"_s);
+        EXPECT_EQ(w.legacyData(), result);
         EXPECT_TRUE(w.takeAlerts().isEmpty());
     }
 }

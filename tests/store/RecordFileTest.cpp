@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::testing::StoreWorld;
+#include "support/Test.h"
 
 namespace {
 
@@ -24,14 +20,7 @@ TEST(RecordFileTest, findsRecordsByKey)
     const QByteArray twin = "20110704\tWiki\ttwin";
     w.setData(nasa + '\n' + wiki + '\n' + twin + '\n' + later + '\n');
 
-    const struct
-    {
-        const char *source;
-        const char *shortDate;
-        const char *sqlDate;
-        QByteArray record;
-        int index;
-    } cases[] = {
+    const Table<const char *, const char *, const char *, QByteArray, int> cases{
         {"Wiki", "7/4/2011", "20110704", wiki, 1},
         {"Nasa", "07/04/2011", "20110704", nasa, 0},
         {"Wiki", "7/5/2011", "20110705", later, 3},
@@ -45,16 +34,13 @@ TEST(RecordFileTest, findsRecordsByKey)
         {"Wiki\thttp:", "7/4/2011", "20110704", "", -1},
         {"Wiki\nNasa", "7/4/2011", "20110704", "", -1},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(std::string(c.source) + ' ' + c.shortDate);
-        EXPECT_EQ(
-            w.records.storedDataFor(QString::fromUtf8(c.source), QString::fromUtf8(c.shortDate))
-                .toUtf8(),
-            c.record);
-        EXPECT_EQ(
-            w.records.indexOfDataFor(QString::fromUtf8(c.source), QString::fromUtf8(c.sqlDate)),
-            c.index);
+    for (const auto &[source, shortDate, sqlDate, record, index] : cases) {
+        SCOPED_TRACE(std::string(source) + ' ' + shortDate);
+        EXPECT_EQ(w.records.storedDataFor(QString::fromUtf8(source), QString::fromUtf8(shortDate))
+                      .toUtf8(),
+                  record);
+        EXPECT_EQ(w.records.indexOfDataFor(QString::fromUtf8(source), QString::fromUtf8(sqlDate)),
+                  index);
     }
 }
 
@@ -68,39 +54,32 @@ TEST(RecordFileTest, findsRecordsByFile)
     const QByteArray converted =
         (u"20050101\tOld\t%1old.jpg\t%1old.jpg\t\tOld caption\t"_s).arg(folder).toUtf8();
 
-    const struct
-    {
-        const char *file;
-        QByteArray record;
-        bool olds = false;
-    } cases[] = {
-        {"pic.jpg", wiki},
-        {"small.jpg", wiki},
-        {"view.jpg", nasa},
-        {"view.tar.jpg", ""},
-        {"view", nasa},
-        {"view.", nasa},
-        {"1", wiki},
-        {"ic.jpg", ""},
-        {"pic", ""},
-        {"PIC.jpg", ""},
-        {"last.jpg", "20110101\tend\tt\t/dir/last.jpg\t\t\t"},
-        {"pic.jpg\thttp://page/1", wiki},
-        {"1\tA caption\tInfo\n20110705", ""},
-        {"", ""},
+    // The last column: also where captions were kept before.
+    const Table<const char *, QByteArray, bool> cases{
+        {"pic.jpg", wiki, false},
+        {"small.jpg", wiki, false},
+        {"view.jpg", nasa, false},
+        {"view.tar.jpg", "", false},
+        {"view", nasa, false},
+        {"view.", nasa, false},
+        {"1", wiki, false},
+        {"ic.jpg", "", false},
+        {"pic", "", false},
+        {"PIC.jpg", "", false},
+        {"last.jpg", "20110101\tend\tt\t/dir/last.jpg\t\t\t", false},
+        {"pic.jpg\thttp://page/1", wiki, false},
+        {"1\tA caption\tInfo\n20110705", "", false},
+        {"", "", false},
         {"", "", true},
-        {".jpg", ""},
-        {"old.jpg", ""},
+        {".jpg", "", false},
+        {"old.jpg", "", false},
         {"old.jpg", converted, true},
         {"pic.jpg", wiki, true},
         {"none.jpg", "", true},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.file);
-        EXPECT_EQ(w.records.storedDataForFile(QString::fromUtf8(c.file), c.olds).toUtf8(),
-                  c.record);
-    }
+    for (const auto &[file, record, olds] : cases)
+        EXPECT_EQ(w.records.storedDataForFile(QString::fromUtf8(file), olds).toUtf8(), record)
+            << file;
     const QStringList lines = w.records.readTextData()->split(u'\n');
     EXPECT_EQ(w.records.captionForFileName(u"view"_s, lines), u"Zwei Bäume"_s);
     EXPECT_EQ(w.records.captionForFileName(u"view.jpg"_s, lines), QString());
@@ -113,26 +92,18 @@ TEST(RecordFileTest, tellsWhetherAnotherRecordUsesAFile)
     w.setData(wiki + '\n' + later + "\n20110706\tWiki\tt\thttp://other/five.jpg\t\t\t\n" + wiki
               + '\n');
 
-    const struct
-    {
-        const char *file;
-        const char *source;
-        const char *day;
-        bool used;
-    } cases[] = {
+    const Table<const char *, const char *, const char *, bool> cases{
         {"pic.jpg", "Wiki", "7/4/2011", false}, // twice, both its own
         {"pic.jpg", "Wik", "7/4/2011", true},   {"pic.jpg", "Wiki", "7/5/2011", true},
         {"five.jpg", "Wiki", "7/5/2011", true}, {"pic.jpg", "Wiki", "no day", true},
         {"pic", "Nasa", "7/4/2011", false},     {"none.jpg", "Wiki", "7/4/2011", false},
         {"", "Wiki", "7/4/2011", false},
     };
-
-    for (const auto &c : cases) {
-        EXPECT_EQ(w.records.isAnyoneUsingPicFile(QString::fromUtf8(c.file),
-                                                 QString::fromUtf8(c.source),
-                                                 QString::fromUtf8(c.day)),
-                  c.used)
-            << c.file << ' ' << c.source << ' ' << c.day;
+    for (const auto &[file, source, day, used] : cases) {
+        EXPECT_EQ(w.records.isAnyoneUsingPicFile(QString::fromUtf8(file), QString::fromUtf8(source),
+                                                 QString::fromUtf8(day)),
+                  used)
+            << file << ' ' << source << ' ' << day;
     }
 }
 
@@ -140,12 +111,7 @@ TEST(RecordFileTest, replacesInPlaceOrAppends)
 {
     const QByteArray fresh = "20110704\tWiki\tnew \xF0\x9F\x8C\x99";
 
-    const struct
-    {
-        QByteArray before;
-        QByteArray record;
-        QByteArray after;
-    } cases[] = {
+    const Table<QByteArray, QByteArray, QByteArray> cases{
         {"", wiki, wiki + '\n'},
         {nasa + '\n', wiki, nasa + '\n' + wiki + '\n'},
         {nasa, "x\ty", nasa + "x\ty\n"},
@@ -159,13 +125,12 @@ TEST(RecordFileTest, replacesInPlaceOrAppends)
         {nasa + '\n', "one field", nasa + '\n'},
         {nasa + '\n', "", nasa + '\n'},
     };
-
-    for (const auto &c : cases) {
+    for (const auto &[before, record, after] : cases) {
         StoreWorld w;
-        if (!c.before.isEmpty())
-            w.setData(c.before);
-        w.records.saveStoredData(QString::fromUtf8(c.record));
-        EXPECT_EQ(w.data(), c.after);
+        if (!before.isEmpty())
+            w.setData(before);
+        w.records.saveStoredData(QString::fromUtf8(record));
+        EXPECT_EQ(w.data(), after);
         EXPECT_TRUE(w.takeAlerts().isEmpty());
     }
 }

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
+#include "support/Test.h"
 
 #include <functional>
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::RecordUpdates;
-using moravel::testing::StoreWorld;
 
 namespace {
 
@@ -21,12 +17,7 @@ TEST(RecordUpdatesTest, changeOneFieldInPlace)
     const QString source = u"Wiki"_s;
     const QString local = u"July 4, 2011"_s;
 
-    const struct
-    {
-        const char *what;
-        std::function<void(RecordUpdates &)> update;
-        QByteArray result;
-    } cases[] = {
+    const Table<const char *, std::function<void(RecordUpdates &)>, QByteArray> cases{
         {"caption", [&](auto &u) { u.saveNewCaption(u" two  spaces "_s, source, local); },
          "20110704\tWiki\thttp://t/a.jpg\thttp://p/b.jpg\tpage\t two  spaces \tinfo"},
         {"caption with tab", [&](auto &u) { u.saveNewCaption(u"a\tb"_s, source, local); },
@@ -61,12 +52,12 @@ TEST(RecordUpdatesTest, changeOneFieldInPlace)
          record},
     };
 
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, update, result] : cases) {
+        SCOPED_TRACE(what);
         StoreWorld w;
         w.setData(before + record + '\n' + after);
-        c.update(w.updates);
-        EXPECT_EQ(w.data(), before + c.result + '\n' + after);
+        update(w.updates);
+        EXPECT_EQ(w.data(), before + result + '\n' + after);
         EXPECT_TRUE(w.takeAlerts().isEmpty());
     }
 }

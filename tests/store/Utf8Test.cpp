@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/Utf8.h"
 
-#include <gtest/gtest.h>
+#include "support/Test.h"
+
 #include <string>
 
 namespace {
@@ -12,8 +13,8 @@ void expectEverywhere(const std::string &bytes, bool valid)
     for (std::size_t before = 0; before <= 70; ++before) {
         for (const std::size_t after : {0U, 1U, 70U}) {
             const std::string text = std::string(before, 'a') + bytes + std::string(after, 'b');
-            ASSERT_EQ(moravel::isValidUtf8(text), valid)
-                << testing::PrintToString(bytes) << " after " << before << " before " << after;
+            ASSERT_EQ(isValidUtf8(text), valid)
+                << ::testing::PrintToString(bytes) << " after " << before << " before " << after;
         }
     }
 }
