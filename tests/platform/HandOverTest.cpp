@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What is handed over to other programs: addresses and log lines.
+#include "support/Test.h"
+
 #include "platform/qt/MessageLog.h"
 #include "platform/qt/QtUrlOpener.h"
 
@@ -7,9 +9,6 @@
 #include <QObject>
 #include <QUrl>
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
 class Recorder : public QObject
@@ -29,16 +28,13 @@ TEST(QtUrlOpener, opensAddressesOfOtherProgramsUnchanged)
     Recorder recorder;
     for (const char *scheme : {"http", "mailto", "file", "javascript"})
         QDesktopServices::setUrlHandler(QLatin1String(scheme), &recorder, "open");
-    const QString mail =
-        QStringLiteral("mailto:a@b?subject=%22%27%0A%26%25&body=%2B%20%F0%9F%8C%85");
+    const QString mail = u"mailto:a@b?subject=%22%27%0A%26%25&body=%2B%20%F0%9F%8C%85"_s;
     for (const QString &url :
-         {mail, QStringLiteral("HTTP://h/p?a=%3D%23;b"), QStringLiteral("file:///etc/passwd"),
-          QStringLiteral("javascript:x"), QString(), QStringLiteral("/usr/bin/true"),
-          QString::fromUtf8("http://h/\xC3\xBC 5%")})
+         {mail, u"HTTP://h/p?a=%3D%23;b"_s, u"file:///etc/passwd"_s, u"javascript:x"_s, QString(),
+          u"/usr/bin/true"_s, QString::fromUtf8("http://h/\xC3\xBC 5%")})
         QtUrlOpener().open(url);
     EXPECT_EQ(recorder.opened,
-              (QStringList{mail, QStringLiteral("http://h/p?a=%3D%23;b"),
-                           QStringLiteral("http://h/%C3%BC%205%25")}));
+              (QStringList{mail, u"http://h/p?a=%3D%23;b"_s, u"http://h/%C3%BC%205%25"_s}));
     for (const char *scheme : {"http", "mailto", "file", "javascript"})
         QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
 }
@@ -48,10 +44,9 @@ TEST(MessageLog, oneMessageIsOneLine)
     const QString text = QString::fromUtf8("a\nb\x1b[0m\t\xC3\xBC\x7F");
     EXPECT_EQ(logLine(QtInfoMsg, "moravel.app", text, false),
               "moravel.app: a\\nb\\x1b[0m\\x09\xC3\xBC\\x7f\n");
-    EXPECT_EQ(logLine(QtWarningMsg, "default", QStringLiteral("x"), true), "<4>x\n");
+    EXPECT_EQ(logLine(QtWarningMsg, "default", u"x"_s, true), "<4>x\n");
 }
 
 } // namespace
-} // namespace moravel
 
 #include "HandOverTest.moc"

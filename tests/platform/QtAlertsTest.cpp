@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtAlerts.h"
 
-#include "support/ExpectWarning.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QWidget>
-
-using moravel::QtAlerts;
 
 namespace {
 
@@ -25,22 +21,12 @@ QList<QMessageBox *> openBoxes()
     return boxes;
 }
 
-const QString Title = QStringLiteral("Error storing Moravel data.");
+const QString Title = u"Error storing Moravel data."_s;
 
-class QtAlertsTest : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        // The offscreen platform says so of every window of a fixed size.
-        moravel::testing::expectWarning(QStringLiteral("propagateSizeHints"));
-    }
-};
-
-TEST_F(QtAlertsTest, ShowsOneOkAndNoMarkup)
+TEST(QtAlerts, ShowsOneOkAndNoMarkup)
 {
     QtAlerts alerts;
-    const QString markup = QStringLiteral("<b>bold</b> <img src=\"file:///etc/passwd\"> &amp;");
+    const QString markup = u"<b>bold</b> <img src=\"file:///etc/passwd\"> &amp;"_s;
     alerts.alert(markup, markup);
     const auto boxes = openBoxes();
     ASSERT_EQ(boxes.size(), 1);
@@ -54,23 +40,23 @@ TEST_F(QtAlertsTest, ShowsOneOkAndNoMarkup)
     EXPECT_EQ(texts, 2);
 }
 
-TEST_F(QtAlertsTest, BlocksItsWindowOnlyOnceThereIsOne)
+TEST(QtAlerts, BlocksItsWindowOnlyOnceThereIsOne)
 {
     QtAlerts alerts;
     QWidget window;
     alerts.setParentWindow(&window);
-    alerts.alert(Title, QStringLiteral("before"));
+    alerts.alert(Title, u"before"_s);
     ASSERT_EQ(openBoxes().size(), 1);
     EXPECT_EQ(openBoxes().first()->windowModality(), Qt::NonModal);
     delete openBoxes().first();
     window.show();
-    alerts.alert(Title, QStringLiteral("after"));
+    alerts.alert(Title, u"after"_s);
     ASSERT_EQ(openBoxes().size(), 1);
     EXPECT_EQ(openBoxes().first()->windowModality(), Qt::WindowModal);
     EXPECT_EQ(openBoxes().first()->parentWidget(), &window);
 }
 
-TEST_F(QtAlertsTest, DoesNotStackEqualOnes)
+TEST(QtAlerts, DoesNotStackEqualOnes)
 {
     QtAlerts alerts;
     const QString longText = QString(50'000, u'x');
@@ -90,9 +76,9 @@ TEST_F(QtAlertsTest, DoesNotStackEqualOnes)
     EXPECT_EQ(openBoxes().size(), 1) << "shown again once it was closed";
 }
 
-TEST_F(QtAlertsTest, StopsAtTwenty)
+TEST(QtAlerts, StopsAtTwenty)
 {
-    moravel::testing::expectWarning(QStringLiteral("too many open alerts"));
+    expectWarning(u"too many open alerts"_s);
     {
         QtAlerts alerts;
         for (int i = 0; i < 30; ++i)

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 // What the client makes of sound, broken and hostile answers.
 #include "HttpFixture.h"
+#include "support/Test.h"
 
 #include <random>
 
-using moravel::FetchResult;
-using moravel::testing::LoopbackServer;
 using Answer = LoopbackServer::Answer;
 
 namespace {
 
-class QtHttpAnswersTest : public moravel::testing::HttpFixture
+class QtHttpAnswersTest : public HttpFixture
 { };
 
 QByteArray deflated(const QByteArray &bytes)
@@ -115,8 +114,7 @@ TEST_F(QtHttpAnswersTest, TakesUnusualButSoundAnswers)
         {"after that", {.body = text}},
         {"closing", {.body = text, .close = true}},
         {"moved", LoopbackServer::redirect("chunked", 308)},
-        {"moved elsewhere",
-         LoopbackServer::redirect(server.url(QStringLiteral("/packed")).toEncoded())},
+        {"moved elsewhere", LoopbackServer::redirect(server.url(u"/packed"_s).toEncoded())},
     };
     for (const auto &[name, answer] : cases) {
         SCOPED_TRACE(name);

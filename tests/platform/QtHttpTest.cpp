@@ -1,23 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "HttpFixture.h"
+#include "support/Test.h"
 
 #include <QTcpServer>
 
-using moravel::FetchResult;
-using moravel::HttpCallHandle;
-using moravel::HttpError;
-using moravel::HttpHandlers;
-using moravel::HttpRequest;
-using moravel::HttpResponse;
-using moravel::QtHttp;
-using moravel::testing::get;
-using moravel::testing::LoopbackServer;
-using moravel::testing::post;
 using Answer = LoopbackServer::Answer;
 
 namespace {
 
-class QtHttpTest : public moravel::testing::HttpFixture
+class QtHttpTest : public HttpFixture
 { };
 
 TEST_F(QtHttpTest, DeliversAnAnswerInParts)
@@ -28,7 +19,7 @@ TEST_F(QtHttpTest, DeliversAnAnswerInParts)
     QByteArray received;
     HttpHandlers handlers;
     handlers.onResponse = [&](const HttpResponse &response) {
-        events += QStringLiteral("response");
+        events += u"response"_s;
         EXPECT_EQ(response.status, 200);
         EXPECT_EQ(response.expectedLength, body.size());
         EXPECT_EQ(response.contentType, "image/jpeg");
@@ -37,13 +28,13 @@ TEST_F(QtHttpTest, DeliversAnAnswerInParts)
         received += block;
         EXPECT_LE(block.size(), 256 * 1024);
     };
-    handlers.onFinished = [&] { events += QStringLiteral("finished"); };
+    handlers.onFinished = [&] { events += u"finished"_s; };
     handlers.onFailed = [&](const HttpError &error) { events += error.description; };
-    const HttpCallHandle call = http.start(get(server.url(QStringLiteral("/pic"))), handlers);
+    const HttpCallHandle call = http.start(get(server.url(u"/pic"_s)), handlers);
     ASSERT_TRUE(call);
     EXPECT_TRUE(events.isEmpty());
     MORAVEL_WAIT(events.size() == 2);
-    EXPECT_EQ(events.join(u' '), QStringLiteral("response finished"));
+    EXPECT_EQ(events.join(u' '), u"response finished"_s);
     EXPECT_EQ(received, body);
 }
 
@@ -51,7 +42,7 @@ TEST_F(QtHttpTest, SendsWhatItWasGivenAndNoMore)
 {
     server.answer("/", {.body = "ok", .headers = {{"Set-Cookie", "a=b"}}});
     HttpRequest request = get(server.url());
-    request.url.setUserInfo(QStringLiteral("me:secret"));
+    request.url.setUserInfo(u"me:secret"_s);
     ASSERT_TRUE(fetch(request));
     ASSERT_TRUE(fetch(request));
     ASSERT_TRUE(fetch(post(server.url(), "day=1")));
@@ -77,12 +68,12 @@ TEST_F(QtHttpTest, RefusesWhatCannotBeSent)
     HttpRequest method = get(server.url());
     method.method = "GET / HTTP/1.1\r\nX:";
     const QList<HttpRequest> requests{get(QUrl()),
-                                      get(QUrl(QStringLiteral("file:///etc/passwd"))),
-                                      get(QUrl(QStringLiteral("ftp://127.0.0.1/x"))),
-                                      get(QUrl(QStringLiteral("data:text/plain,x"))),
-                                      get(QUrl(QStringLiteral("qrc:/x"))),
-                                      get(QUrl(QStringLiteral("http:///x"))),
-                                      get(QUrl(QStringLiteral("relative"))),
+                                      get(QUrl(u"file:///etc/passwd"_s)),
+                                      get(QUrl(u"ftp://127.0.0.1/x"_s)),
+                                      get(QUrl(u"data:text/plain,x"_s)),
+                                      get(QUrl(u"qrc:/x"_s)),
+                                      get(QUrl(u"http:///x"_s)),
+                                      get(QUrl(u"relative"_s)),
                                       split,
                                       method};
     for (const HttpRequest &request : requests) {
@@ -99,8 +90,8 @@ TEST_F(QtHttpTest, FollowsFiveRedirectsAndNoMore)
         server.answer("/" + QByteArray::number(i),
                       LoopbackServer::redirect(QByteArray::number(i + 1)));
     server.answer("/6", {.body = "there"});
-    EXPECT_EQ(fetch(get(server.url(QStringLiteral("/1")))).value_or("failed"), "there");
-    EXPECT_EQ(fetch(get(server.url(QStringLiteral("/0")))).error().status, 302);
+    EXPECT_EQ(fetch(get(server.url(u"/1"_s))).value_or("failed"), "there");
+    EXPECT_EQ(fetch(get(server.url(u"/0"_s))).error().status, 302);
 }
 
 TEST_F(QtHttpTest, NeverRepostsToARedirect)
@@ -170,7 +161,7 @@ TEST_F(QtHttpTest, GivesUpAfterItsTimes)
             (total ? request.totalTimeout : request.idleTimeout) = 0.2;
             const FetchResult result = fetch(request);
             ASSERT_FALSE(result);
-            EXPECT_TRUE(result.error().description.contains(QLatin1String("too long")))
+            EXPECT_TRUE(result.error().description.contains("too long"_L1))
                 << qPrintable(result.error().description);
         }
     }
@@ -209,13 +200,12 @@ TEST_F(QtHttpTest, CancelledCallsStaySilent)
         handlers.onData = [&](const QByteArray &) { note(InData); };
         handlers.onFinished = [&] { note(InFinished); };
         handlers.onFailed = [&](const HttpError &) { note(InFailed); };
-        const QString path = when == InFailed ? QStringLiteral("/bad") : QStringLiteral("/ok");
+        const QString path = when == InFailed ? u"/bad"_s : u"/ok"_s;
         call = http.start(get(server.url(path)), handlers);
         if (when == AtOnce)
             call.reset();
         MORAVEL_WAIT(!call);
-        fetch(
-            get(server.url(QStringLiteral("/bad")))); // time for anything that still wanted to come
+        fetch(get(server.url(u"/bad"_s))); // time for anything that still wanted to come
         EXPECT_EQ(events.isEmpty() ? AtOnce : events.last(), when);
     }
 }
@@ -226,8 +216,8 @@ TEST_F(QtHttpTest, DestroyedClientStaysSilent)
     auto client = std::make_unique<QtHttp>();
     HttpHandlers handlers;
     handlers.onFailed = [](const HttpError &) { FAIL(); };
-    const HttpCallHandle call = client->start(get(server.url(QStringLiteral("/hang"))), handlers);
-    client->fetch(get(server.url(QStringLiteral("/hang"))), [](const FetchResult &) { FAIL(); });
+    const HttpCallHandle call = client->start(get(server.url(u"/hang"_s)), handlers);
+    client->fetch(get(server.url(u"/hang"_s)), [](const FetchResult &) { FAIL(); });
     MORAVEL_WAIT(server.requests().size() == 2);
     client->fetch(get(QUrl()), [](const FetchResult &) { FAIL(); });
     client.reset();
@@ -240,10 +230,10 @@ TEST_F(QtHttpTest, FailsWhenNobodyAnswers)
     ASSERT_TRUE(closed.listen(QHostAddress::LocalHost));
     const quint16 port = closed.serverPort();
     closed.close();
-    const FetchResult result = fetch(get(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(port))));
+    const FetchResult result = fetch(get(QUrl(u"http://127.0.0.1:%1/"_s.arg(port))));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().status, 0);
-    EXPECT_TRUE(result.error().description.contains(QLatin1String("could not be reached")));
+    EXPECT_TRUE(result.error().description.contains("could not be reached"_L1));
 }
 
 } // namespace

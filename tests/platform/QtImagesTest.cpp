@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtImages.h"
 
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include <QBuffer>
 #include <QIcon>
 #include <QImageWriter>
 #include <QtEndian>
 
-#include <optional>
 #include <random>
 #include <sys/stat.h>
-
-using moravel::QtImages;
-using moravel::testing::TempHome;
 
 namespace {
 
@@ -31,69 +26,33 @@ QImage noise(QSize size)
     return image;
 }
 
-QByteArray encoded(const QImage &image, const char *format)
+/// @param turn Rotate90 stands for a camera that was held on its side (Exif orientation 6: turn right).
+QByteArray encoded(const QImage &image, const char *format, bool progressive = false,
+                   QImageIOHandler::Transformation turn = QImageIOHandler::TransformationNone)
 {
     QBuffer buffer;
     QImageWriter writer(&buffer, format);
     writer.setQuality(90);
+    writer.setProgressiveScanWrite(progressive);
+    writer.setTransformation(turn);
     EXPECT_TRUE(writer.write(image)) << format << qPrintable(writer.errorString());
     return buffer.data();
 }
 
-QByteArray progressiveJpeg()
-{
-    QBuffer buffer;
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setProgressiveScanWrite(true);
-    EXPECT_TRUE(writer.write(noise(Size)));
-    return buffer.data();
-}
-
-/// A JPEG whose camera was held on its side (Exif orientation 6: turn right to see it upright).
 QByteArray turnedJpeg()
 {
-    QBuffer buffer;
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setTransformation(QImageIOHandler::TransformationRotate90);
-    EXPECT_TRUE(writer.write(noise(Size)));
-    return buffer.data();
+    return encoded(noise(Size), "jpeg", false, QImageIOHandler::TransformationRotate90);
 }
 
-/// A GIF of @p frames equal frames; each pixel takes nine bits, as the code table is cleared in time.
+/// A GIF of that size, of one colour.
 QByteArray gif(int frames)
 {
-    const auto word = [](int value) {
-        return QByteArray(1, char(value & 0xFF)) + char(value >> 8);
-    };
-    QByteArray bytes =
-        "GIF89a" + word(Size.width()) + word(Size.height()) + QByteArray("\xF7\0\0", 3);
-    for (int i = 0; i < 256; ++i)
-        bytes += QByteArray(3, char(i));
-    QByteArray codes;
-    quint32 bits = 0;
-    int count = 0;
-    const auto put = [&](quint32 code) {
-        bits |= code << count;
-        for (count += 9; count >= 8; count -= 8, bits >>= 8)
-            codes += char(bits & 0xFF);
-    };
-    for (int i = 0; i < Size.width() * Size.height(); ++i) {
-        if (i % 200 == 0)
-            put(256); // clear
-        put(quint32(i * 7 % 256));
-    }
-    put(257); // end
-    codes += char(bits & 0xFF);
-    for (int frame = 0; frame < frames; ++frame) {
-        bytes += ',' + word(0) + word(0) + word(Size.width()) + word(Size.height())
-            + QByteArray("\0\x08", 2);
-        for (qsizetype i = 0; i < codes.size(); i += 255) {
-            const QByteArray block = codes.mid(i, 255);
-            bytes += char(block.size()) + block;
-        }
-        bytes += '\0';
-    }
-    return bytes + ';';
+    const QByteArray frame = QByteArray::fromBase64(
+        "LAAAAABAADAAAAI5hI+py+0Po5y02ouz3rz7D4biSJbmiabqyrbuC8fyTNf2jef6zvf+"
+        "DwwKh8Si8YhMKpfMpvMJjSYL"
+        "AA==");
+    return QByteArray::fromBase64("R0lGODlhQAAwAPEAAAAAAP8AAAD/AAAA/w==") + frame.repeated(frames)
+        + ';';
 }
 
 QByteArray pngHead(quint32 width, quint32 height)
@@ -111,39 +70,37 @@ QByteArray pngHead(quint32 width, quint32 height)
     return bytes;
 }
 
-class QtImagesTest : public testing::Test
+class QtImagesTest : public ::testing::Test
 {
 protected:
+    /// What a call answers, once and not from within.
+    template <typename Result, typename Call>
+    static Result answer(Call call)
+    {
+        std::optional<Result> result;
+        call([&](const Result &given) { result = given; });
+        EXPECT_FALSE(result);
+        EXPECT_TRUE(waitFor([&] { return result.has_value(); }));
+        return result.value_or(Result());
+    }
+
     QSize check(const QString &path)
     {
-        std::optional<QSize> result;
-        images.check(path, [&](QSize size) { result = size; });
-        EXPECT_FALSE(result);
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
-        return result.value_or(QSize(-1, -1));
+        return answer<QSize>([&](const auto &done) { images.check(path, done); });
     }
+
+    QSize check(const QByteArray &bytes) { return check(home.write(u"picture.jpg"_s, bytes)); }
 
     QSize announced(const QByteArray &bytes)
     {
-        std::optional<QSize> result;
-        images.size(home.write(QStringLiteral("head"), bytes), [&](QSize size) { result = size; });
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
-        return result.value_or(QSize(-1, -1));
-    }
-
-    QSize check(const QByteArray &bytes)
-    {
-        return check(home.write(QStringLiteral("picture.jpg"), bytes));
+        const QString path = home.write(u"head"_s, bytes);
+        return answer<QSize>([&](const auto &done) { images.size(path, done); });
     }
 
     QImage load(const QByteArray &bytes, QSize box)
     {
-        const QString path = home.write(QStringLiteral("picture"), bytes);
-        std::optional<QImage> result;
-        images.load(path, box, [&](const QImage &image) { result = image; });
-        EXPECT_FALSE(result);
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return result.has_value(); }));
-        return result.value_or(QImage());
+        const QString path = home.write(u"picture"_s, bytes);
+        return answer<QImage>([&](const auto &done) { images.load(path, box, done); });
     }
 
     TempHome home;
@@ -156,7 +113,7 @@ TEST_F(QtImagesTest, ChecksCompletePicturesAndRefusesEveryCut)
     translucent.fill(QColor(10, 20, 30, 40));
     const QList<std::pair<const char *, QByteArray>> pictures{
         {"jpeg", encoded(noise(Size), "jpeg")},
-        {"progressive jpeg", progressiveJpeg()},
+        {"progressive jpeg", encoded(noise(Size), "jpeg", true)},
         {"png", encoded(noise(Size), "png")},
         {"translucent png", encoded(translucent, "png")},
         {"palette png", encoded(noise(Size).convertToFormat(QImage::Format_Indexed8), "png")},
@@ -225,28 +182,18 @@ TEST_F(QtImagesTest, RefusesHostileFiles)
 
 TEST_F(QtImagesTest, RefusesWhatIsNoFile)
 {
-    const QString pipe = home.path(QStringLiteral("pipe.jpg"));
+    const QString pipe = home.path(u"pipe.jpg"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
-    for (const QString &path :
-         {QString(), home.path(), home.path(QStringLiteral("missing.jpg")), pipe,
-          QStringLiteral("/dev/zero"), QStringLiteral(":/moravel/blank.png.x")}) {
-        SCOPED_TRACE(qPrintable(path));
-        EXPECT_EQ(check(path), QSize());
-    }
+    for (const QString &path : {QString(), home.path(), home.path(u"missing.jpg"_s), pipe,
+                                u"/dev/zero"_s, u":/moravel/blank.png.x"_s})
+        EXPECT_EQ(check(path), QSize()) << qPrintable(path);
 }
 
 TEST_F(QtImagesTest, FitsTheBoxUprightAndNeverEnlarges)
 {
-    struct Case
-    {
-        QByteArray bytes;
-        QSize box;
-        QSize expected;
-    };
-
     const QByteArray jpeg = encoded(noise({400, 200}), "jpeg");
     const QByteArray line = encoded(noise({4000, 1}), "png");
-    const QList<Case> cases{
+    const Table<QByteArray, QSize, QSize> cases{
         {jpeg, {200, 200}, {200, 100}},
         {jpeg, {100, 10}, {20, 10}},
         {jpeg, {400, 200}, {400, 200}},
@@ -260,10 +207,10 @@ TEST_F(QtImagesTest, FitsTheBoxUprightAndNeverEnlarges)
         {encoded(noise(Size), "webp"), {32, 32}, {32, 24}},
         {encoded(noise(Size), "tiff"), {32, 32}, {32, 24}},
     };
-    for (const Case &fit : cases) {
-        SCOPED_TRACE(fit.box.width());
-        SCOPED_TRACE(fit.bytes.left(4).toHex().constData());
-        EXPECT_EQ(load(fit.bytes, fit.box).size(), fit.expected);
+    for (const auto &[bytes, box, expected] : cases) {
+        SCOPED_TRACE(box.width());
+        SCOPED_TRACE(bytes.left(4).toHex().constData());
+        EXPECT_EQ(load(bytes, box).size(), expected);
     }
     EXPECT_EQ(check(turnedJpeg()), Size.transposed());
     EXPECT_EQ(announced(turnedJpeg()), Size.transposed());
@@ -272,10 +219,10 @@ TEST_F(QtImagesTest, FitsTheBoxUprightAndNeverEnlarges)
 
 TEST_F(QtImagesTest, AnswersEachCallOnceAndNoneWhenDestroyed)
 {
-    const QString path = home.write(QStringLiteral("big.png"), encoded(noise({2000, 1500}), "png"));
+    const QString path = home.write(u"big.png"_s, encoded(noise({2000, 1500}), "png"));
     int answers = 0;
     for (int i = 0; i < 20; ++i)
-        images.load(home.path(QStringLiteral("missing")), Size, [&](const QImage &) { ++answers; });
+        images.load(home.path(u"missing"_s), Size, [&](const QImage &) { ++answers; });
     MORAVEL_WAIT(answers == 20);
 
     auto brief = std::make_unique<QtImages>();
@@ -289,11 +236,11 @@ TEST_F(QtImagesTest, AnswersEachCallOnceAndNoneWhenDestroyed)
 
 TEST_F(QtImagesTest, DecodesOnePictureAtATimeAndDropsWhatIsCancelled)
 {
-    const QString big = home.write(QStringLiteral("big.png"), encoded(noise({2000, 1500}), "png"));
-    const QString turned = home.write(QStringLiteral("turned.jpg"), turnedJpeg());
+    const QString big = home.write(u"big.png"_s, encoded(noise({2000, 1500}), "png"));
+    const QString turned = home.write(u"turned.jpg"_s, turnedJpeg());
     auto cancelled = images.decode(big, {500, 500}, [](const auto &) { FAIL(); });
     cancelled.reset();
-    std::optional<moravel::DecodedPicture> last;
+    std::optional<DecodedPicture> last;
     const auto kept =
         images.decode(turned, {24, 1000}, [&](const auto &picture) { last = picture; });
     MORAVEL_WAIT(last.has_value());
@@ -317,12 +264,10 @@ TEST_F(QtImagesTest, KnowsPictureExtensions)
 
 TEST_F(QtImagesTest, HasItsOwnPictures)
 {
-    for (const char *name : {"blank", "Trashcan", "Prefs"}) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(images.resource(QLatin1String(name)).size(), QSize(400, 225));
-    }
-    EXPECT_TRUE(images.resource(QStringLiteral("../moravel/nothing")).isNull());
-    const QIcon icon(QStringLiteral(":/moravel/icon.svg"));
+    for (const char *name : {"blank", "Trashcan", "Prefs"})
+        EXPECT_EQ(images.resource(QLatin1String(name)).size(), QSize(400, 225)) << name;
+    EXPECT_TRUE(images.resource(u"../moravel/nothing"_s).isNull());
+    const QIcon icon(u":/moravel/icon.svg"_s);
     for (const int size : {16, 48, 256})
         EXPECT_EQ(icon.pixmap(size).size(), QSize(size, size));
 }

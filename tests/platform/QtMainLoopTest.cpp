@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtMainLoop.h"
 
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include <QStringList>
-
-using moravel::DelayedCallHandle;
-using moravel::LoopHoldHandle;
-using moravel::QtMainLoop;
 
 namespace {
 
 constexpr double Day = 86'400;
 
-class QtMainLoopTest : public testing::Test
+class QtMainLoopTest : public ::testing::Test
 {
 protected:
     std::function<void()> note(const char *name)
@@ -24,10 +20,10 @@ protected:
     /// Waits until so many events came, and lets what is due besides come too.
     QString seen(qsizetype count)
     {
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return events.size() >= count; }));
+        EXPECT_TRUE(waitFor([&] { return events.size() >= count; }));
         bool settled = false;
         QTimer::singleShot(30, &context, [&] { settled = true; });
-        EXPECT_TRUE(moravel::testing::waitFor([&] { return settled; }));
+        EXPECT_TRUE(waitFor([&] { return settled; }));
         return events.join(u' ');
     }
 
@@ -46,18 +42,18 @@ TEST_F(QtMainLoopTest, FiresInDueOrderNeverFromWithin)
     loop.schedule(0, note("second"));
     loop.schedule(-5, note("past"));
     EXPECT_TRUE(events.isEmpty());
-    EXPECT_EQ(seen(5), QStringLiteral("first second past soon late"));
+    EXPECT_EQ(seen(5), u"first second past soon late"_s);
 }
 
 TEST_F(QtMainLoopTest, LetsTheWindowAnswerBetweenCalls)
 {
     for (int i = 0; i < 3; ++i) {
         loop.schedule(0, [this] {
-            events += QStringLiteral("call");
+            events += u"call"_s;
             QMetaObject::invokeMethod(&context, note("window"), Qt::QueuedConnection);
         });
     }
-    EXPECT_EQ(seen(6), QStringLiteral("call window call window call window"));
+    EXPECT_EQ(seen(6), u"call window call window call window"_s);
 }
 
 TEST_F(QtMainLoopTest, WaitsForEveryHoldAndThenKeepsTheDueOrder)
@@ -78,9 +74,9 @@ TEST_F(QtMainLoopTest, WaitsForEveryHoldAndThenKeepsTheDueOrder)
     EXPECT_TRUE(events.isEmpty());
     loop.inOrder(note("next answer"));
     loop.schedule(0, note("last"));
-    EXPECT_EQ(seen(5), QStringLiteral("due first due second answer next answer last"));
+    EXPECT_EQ(seen(5), u"due first due second answer next answer last"_s);
     loop.inOrder(note("at once"));
-    EXPECT_EQ(events.last(), QStringLiteral("at once"));
+    EXPECT_EQ(events.last(), u"at once"_s);
 }
 
 TEST_F(QtMainLoopTest, HoldsAgainFromWithinACall)
@@ -89,12 +85,12 @@ TEST_F(QtMainLoopTest, HoldsAgainFromWithinACall)
     loop.schedule(0, [&] {
         hold = loop.hold();
         loop.inOrder(note("answer"));
-        events += QStringLiteral("held");
+        events += u"held"_s;
     });
     loop.schedule(0, note("after"));
-    EXPECT_EQ(seen(1), QStringLiteral("held"));
+    EXPECT_EQ(seen(1), u"held"_s);
     hold.reset();
-    EXPECT_EQ(seen(3), QStringLiteral("held after answer"));
+    EXPECT_EQ(seen(3), u"held after answer"_s);
 }
 
 TEST_F(QtMainLoopTest, CancelsByDestroyingTheHandle)
@@ -111,13 +107,13 @@ TEST_F(QtMainLoopTest, CancelsByDestroyingTheHandle)
     ticking = loop.every(0.001, [&] {
         if (++ticks == 3)
             ticking.reset();
-        events += QStringLiteral("tick");
+        events += u"tick"_s;
     });
     DelayedCallHandle replaced = loop.after(0.005, note("replaced"));
     replaced = loop.after(0.005, note("replacement"));
     seen(5);
     events.sort(); // a busy machine may be late with the ticks
-    EXPECT_EQ(events.join(u' '), QStringLiteral("1000 replacement tick tick tick"));
+    EXPECT_EQ(events.join(u' '), u"1000 replacement tick tick tick"_s);
 }
 
 TEST_F(QtMainLoopTest, DropsTicksThatFellIntoAHold)
@@ -160,10 +156,10 @@ TEST_F(QtMainLoopTest, MayBeDestroyedByItsOwnCall)
 {
     auto other = std::make_unique<QtMainLoop>();
     const DelayedCallHandle call = other->every(0.001, [&] {
-        events += QStringLiteral("gone");
+        events += u"gone"_s;
         other.reset();
     });
-    EXPECT_EQ(seen(1), QStringLiteral("gone"));
+    EXPECT_EQ(seen(1), u"gone"_s);
 }
 
 } // namespace

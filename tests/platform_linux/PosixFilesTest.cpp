@@ -1,22 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/PosixFiles.h"
 
-#include "support/ExpectWarning.h"
-#include "support/TempHome.h"
-
-#include <QDir>
-#include <QFile>
+#include "support/Test.h"
+#include "support/Volume.h"
 
 #include <csignal>
-#include <gtest/gtest.h>
-#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Qt::Literals::StringLiterals;
-using moravel::PosixFiles;
-using moravel::testing::TempHome;
 
 namespace {
 
@@ -37,28 +28,6 @@ protected:
 
     TempHome m_home;
     PosixFiles m_files;
-};
-
-/// A file system of a few KiB, gone with the object.
-class TinyDisk
-{
-public:
-    explicit TinyDisk(const QString &folder) : m_folder(QFile::encodeName(folder))
-    {
-        ::mkdir(m_folder.constData(), 0777);
-        mounted = ::mount("tiny", m_folder.constData(), "tmpfs", 0, "size=64k") == 0;
-    }
-
-    ~TinyDisk()
-    {
-        if (mounted)
-            ::umount2(m_folder.constData(), MNT_DETACH);
-    }
-    Q_DISABLE_COPY_MOVE(TinyDisk)
-    bool mounted = false;
-
-private:
-    QByteArray m_folder;
 };
 
 /// Lets files grow to a few bytes only: the way to a failing write that needs no privilege.
@@ -143,13 +112,7 @@ TEST_F(PosixFilesTest, saysWhatFailedAndWhere)
     const QString nothing = u"No such file or directory"_s;
     const QString invalid = u"Invalid argument"_s;
 
-    const struct
-    {
-        QString path;
-        QString open;
-        QString write;
-        QString makeFolder;
-    } cases[] = {
+    const Table<QString, QString, QString, QString> cases{
         {QString(), nothing, nothing, nothing},
         {u"relative"_s, invalid, invalid, invalid},
         {m_home.path(u"a"_s) + QChar(u'\0') + u"b"_s, invalid, invalid, invalid},
@@ -167,12 +130,12 @@ TEST_F(PosixFilesTest, saysWhatFailedAndWhere)
         EXPECT_EQ(result ? QString() : result.error().description, text);
         EXPECT_TRUE(result || path.startsWith(result.error().path));
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(qPrintable(c.path));
-        expect(m_files.open(c.path), c.path, c.open);
-        expect(m_files.writeAtomically(c.path, {"kept"}), c.path, c.write);
-        EXPECT_EQ(bool(m_files.startPart(c.path)), c.write.isEmpty());
-        expect(m_files.makeFolder(c.path), c.path, c.makeFolder);
+    for (const auto &[path, open, write, makeFolder] : cases) {
+        SCOPED_TRACE(qPrintable(path));
+        expect(m_files.open(path), path, open);
+        expect(m_files.writeAtomically(path, {"kept"}), path, write);
+        EXPECT_EQ(bool(m_files.startPart(path)), write.isEmpty());
+        expect(m_files.makeFolder(path), path, makeFolder);
     }
     EXPECT_FALSE(m_files.exists(QString()));
     EXPECT_FALSE(m_files.isFolder(u"."_s));
@@ -184,14 +147,14 @@ TEST_F(PosixFilesTest, saysWhatFailedAndWhere)
 
 TEST_F(PosixFilesTest, aFullDiskLeavesTheOldFile)
 {
-    const TinyDisk disk(m_home.path(u"disk"_s));
+    const Volume disk(m_home.path(u"disk"_s));
     const QString path = m_home.write(u"disk/data.txt"_s, "old");
     const std::string much(1 << 20, 'x');
     {
         const FileSizeLimit limit(1000);
         EXPECT_EQ(m_files.writeAtomically(path, {much}).error().description, u"File too large"_s);
     }
-    if (disk.mounted) {
+    if (disk.isMounted()) {
         EXPECT_EQ(m_files.writeAtomically(path, {"new", much}).error().description,
                   u"No space left on device"_s);
     }
@@ -224,16 +187,12 @@ TEST_F(PosixFilesTest, partsTakeTheTargetsNameWhenComplete)
     ASSERT_TRUE((*part)->close());
     EXPECT_EQ(TempHome::read((*part)->partPath()), "whole");
     EXPECT_FALSE((*part)->append(QByteArray("x")));
-}
 
-TEST_F(PosixFilesTest, commitsOnceAfterClosing)
-{
-    const QString target = m_home.path(u"p.jpg"_s);
-    const auto part = m_files.startPart(target);
-    ASSERT_TRUE((*part)->append(QByteArray("whole")));
-    ASSERT_TRUE((*part)->close());
-    ASSERT_TRUE((*part)->commit());
-    EXPECT_FALSE((*part)->commit());
+    const auto again = m_files.startPart(target);
+    ASSERT_TRUE((*again)->append(QByteArray("whole")));
+    ASSERT_TRUE((*again)->close());
+    ASSERT_TRUE((*again)->commit());
+    EXPECT_FALSE((*again)->commit());
     EXPECT_EQ(TempHome::read(target), "whole");
 }
 
@@ -250,13 +209,13 @@ TEST_F(PosixFilesTest, removesOnlyItsOwnLeftovers)
     for (const QString &name : names())
         gone.removeAll(name);
     EXPECT_EQ(gone, QStringList{u".p.jpg.abcdef.part"_s});
-    moravel::testing::expectWarning(u"No such file"_s);
+    expectWarning(u"No such file"_s);
     m_files.removeParts(m_home.path(u"none"_s));
 }
 
 TEST_F(PosixFilesTest, movesWithoutOverwriting)
 {
-    const TinyDisk disk(m_home.path(u"disk"_s)); // another file system, where mounting is allowed
+    const Volume disk(m_home.path(u"disk"_s)); // another file system, where mounting is allowed
     for (const QString &to : {u"to"_s, u"disk/to"_s}) {
         const QString target = m_home.path(to);
         const QString from = m_home.write(u"from"_s, "moved");
@@ -286,12 +245,4 @@ TEST_F(PosixFilesTest, listsPlainFilesInNameOrder)
               (QStringList{u"B.jpg"_s, u"a.jpg"_s, u"b.jpg"_s, u"link.jpg"_s, u"é.jpg"_s}));
     EXPECT_FALSE(m_files.list(QString()));
     std::remove(odd.constData()); // QTemporaryDir cannot
-}
-
-TEST_F(PosixFilesTest, findsTheUsersFolders)
-{
-    const auto folders = m_files.standardFolders();
-    EXPECT_TRUE(folders.pictures.startsWith(qEnvironmentVariable("HOME")))
-        << qPrintable(folders.pictures);
-    EXPECT_EQ(folders.applicationSupport, qEnvironmentVariable("XDG_DATA_HOME"));
 }

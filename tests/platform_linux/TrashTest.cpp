@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "support/FakeMainLoop.h"
-#include "support/TempHome.h"
+#include "support/Test.h"
 #include "support/Volume.h"
-#include "support/Wait.h"
 
 #include "platform/linux/LinuxTrash.h"
-
-#include <QDir>
-#include <QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace moravel {
 namespace {
-
-using namespace testing;
 
 class TrashOfHome : public ::testing::Test
 {
@@ -26,26 +19,24 @@ protected:
         return trash.moveToTrash(path, QDateTime(QDate(2011, 7, 4), QTime(9, 30, second)));
     }
 
-    QStringList inTrash(const QString &folder = QStringLiteral("Trash")) const
+    QStringList inTrash(const QString &folder = u"Trash"_s) const
     {
         const QDir dir(home.path(folder));
         const auto all = QDir::Files | QDir::Hidden | QDir::System;
-        return QDir(dir.filePath(QStringLiteral("files"))).entryList(all)
-            + QDir(dir.filePath(QStringLiteral("info"))).entryList(all);
+        return QDir(dir.filePath(u"files"_s)).entryList(all)
+            + QDir(dir.filePath(u"info"_s)).entryList(all);
     }
 
     const TempHome home;
-    const PosixTrash trash{home.path(QStringLiteral("Trash"))};
+    const PosixTrash trash{home.path(u"Trash"_s)};
 };
 
 TEST_F(TrashOfHome, KeepsAFileAndGivesItBack)
 {
-    for (const QString &name :
-         {QStringLiteral("a.jpg"), QStringLiteral("no extension"),
-          QStringLiteral("\u00fc [100%] #?.jpg"), QStringLiteral("a\nPath=b.jpg"),
-          QStringLiteral(".hidden"), QString(120, u'\u00e9') + u'x'}) {
+    for (const QString &name : {u"a.jpg"_s, u"no extension"_s, u"\u00fc [100%] #?.jpg"_s,
+                                u"a\nPath=b.jpg"_s, u".hidden"_s, QString(120, u'\u00e9') + u'x'}) {
         SCOPED_TRACE(qPrintable(name));
-        const QString path = home.write(QStringLiteral("Pictures/p q/") + name, "bytes");
+        const QString path = home.write(u"Pictures/p q/"_s + name, "bytes");
         ASSERT_TRUE(discard(path));
         EXPECT_FALSE(QFile::exists(path));
         EXPECT_EQ(inTrash().size(), 2);
@@ -54,19 +45,19 @@ TEST_F(TrashOfHome, KeepsAFileAndGivesItBack)
         EXPECT_TRUE(inTrash().isEmpty());
         EXPECT_FALSE(trash.restore(home.path(name))) << "nothing is left to restore";
     }
-    const QString path = home.write(QStringLiteral("p q/\u00fc%.jpg"), "x");
+    const QString path = home.write(u"p q/\u00fc%.jpg"_s, "x");
     ASSERT_TRUE(discard(path, 5));
     const QByteArray folder = QDir(home.path()).canonicalPath().toUtf8().toPercentEncoding("/");
-    EXPECT_EQ(TempHome::read(home.path(QStringLiteral("Trash/info/\u00fc%.jpg.trashinfo"))),
+    EXPECT_EQ(TempHome::read(home.path(u"Trash/info/\u00fc%.jpg.trashinfo"_s)),
               "[Trash Info]\nPath=" + folder
                   + "/p%20q/%C3%BC%25.jpg\nDeletionDate=2011-07-04T09:30:05\n");
 }
 
 TEST_F(TrashOfHome, TellsFilesOfOneNameApart)
 {
-    const QString picture = QStringLiteral("Pictures/x.jpg");
+    const QString picture = u"Pictures/x.jpg"_s;
     const QString path = home.write(picture, "old");
-    const QString thumb = home.write(QStringLiteral("Pictures/thumbs/x.jpg"), "thumb");
+    const QString thumb = home.write(u"Pictures/thumbs/x.jpg"_s, "thumb");
     ASSERT_TRUE(discard(path, 1));
     home.write(picture, "later");
     ASSERT_TRUE(discard(path, 2));
@@ -74,8 +65,7 @@ TEST_F(TrashOfHome, TellsFilesOfOneNameApart)
     ASSERT_TRUE(discard(path, 2));
     ASSERT_TRUE(discard(thumb, 3));
     EXPECT_EQ(inTrash().first(4),
-              (QStringList{QStringLiteral("x.2.jpg"), QStringLiteral("x.3.jpg"),
-                           QStringLiteral("x.4.jpg"), QStringLiteral("x.jpg")}));
+              (QStringList{u"x.2.jpg"_s, u"x.3.jpg"_s, u"x.4.jpg"_s, u"x.jpg"_s}));
 
     for (const char *expected : {"in the same second", "later", "old"}) {
         ASSERT_TRUE(trash.restore(path));
@@ -92,47 +82,46 @@ TEST_F(TrashOfHome, TellsFilesOfOneNameApart)
 
 TEST_F(TrashOfHome, GoesByNameWhenThePictureFolderWasMoved)
 {
-    ASSERT_TRUE(discard(home.write(QStringLiteral("Pictures/Moravel/x.jpg"), "x")));
-    const QString moved = home.path(QStringLiteral("Bilder/Moravel/x.jpg"));
+    ASSERT_TRUE(discard(home.write(u"Pictures/Moravel/x.jpg"_s, "x")));
+    const QString moved = home.path(u"Bilder/Moravel/x.jpg"_s);
     EXPECT_FALSE(trash.restore(moved)) << "no folder to restore to";
-    QDir(home.path()).mkpath(QStringLiteral("Bilder/Moravel/thumbs"));
-    EXPECT_FALSE(trash.restore(home.path(QStringLiteral("Bilder/Moravel/thumbs/x.jpg"))));
+    QDir(home.path()).mkpath(u"Bilder/Moravel/thumbs"_s);
+    EXPECT_FALSE(trash.restore(home.path(u"Bilder/Moravel/thumbs/x.jpg"_s)));
     ASSERT_TRUE(trash.restore(moved));
     EXPECT_EQ(TempHome::read(moved), "x");
 }
 
 TEST_F(TrashOfHome, PassesOverStrangeEntries)
 {
-    const QString path = home.write(QStringLiteral("Pictures/x.jpg"), "x");
+    const QString path = home.write(u"Pictures/x.jpg"_s, "x");
     ASSERT_TRUE(discard(path));
     const QByteArray entry =
         "[Trash Info]\nPath=" + path.toUtf8() + "\nDeletionDate=2030-01-01T00:00:00\n";
-    home.write(QStringLiteral("Trash/info/gone.trashinfo"), entry);
-    home.write(QStringLiteral("Trash/info/folder.trashinfo"), entry);
-    QDir(home.path()).mkpath(QStringLiteral("Trash/files/folder"));
-    home.write(QStringLiteral("Trash/info/empty.trashinfo"), "");
-    home.write(QStringLiteral("Trash/info/large.trashinfo"), QByteArray(1 << 20, '\n'));
-    home.write(QStringLiteral("Trash/info/date.trashinfo"),
+    home.write(u"Trash/info/gone.trashinfo"_s, entry);
+    home.write(u"Trash/info/folder.trashinfo"_s, entry);
+    QDir(home.path()).mkpath(u"Trash/files/folder"_s);
+    home.write(u"Trash/info/empty.trashinfo"_s, "");
+    home.write(u"Trash/info/large.trashinfo"_s, QByteArray(1 << 20, '\n'));
+    home.write(u"Trash/info/date.trashinfo"_s,
                "[Trash Info]\nPath=" + path.toUtf8() + "\nDeletionDate=z\n");
-    home.write(QStringLiteral("Trash/files/date"), "undated");
-    ::mkfifo(home.path(QStringLiteral("Trash/info/pipe.trashinfo")).toUtf8().constData(), 0600);
+    home.write(u"Trash/files/date"_s, "undated");
+    ::mkfifo(home.path(u"Trash/info/pipe.trashinfo"_s).toUtf8().constData(), 0600);
     ASSERT_TRUE(trash.restore(path));
     EXPECT_EQ(TempHome::read(path), "x");
 
-    for (const QString &bad :
-         {QString(), QStringLiteral("x.jpg"), home.path(), home.path(QStringLiteral("none"))})
+    for (const QString &bad : {QString(), u"x.jpg"_s, home.path(), home.path(u"none"_s)})
         EXPECT_FALSE(discard(bad)) << qPrintable(bad);
 }
 
 TEST_F(TrashOfHome, LeavesAFileThatItCannotTake)
 {
-    const QString path = home.write(QStringLiteral("x.jpg"), "x");
+    const QString path = home.write(u"x.jpg"_s, "x");
     for (const char *blocked : {"Trash", "Trash/files", "Trash/info"}) {
         const QString file = home.write(QString::fromUtf8(blocked), "no folder");
         EXPECT_FALSE(discard(path)) << blocked;
         EXPECT_EQ(TempHome::read(path), "x");
         QFile::remove(file);
-        QDir(home.path(QStringLiteral("Trash"))).removeRecursively();
+        QDir(home.path(u"Trash"_s)).removeRecursively();
     }
 }
 
@@ -143,12 +132,12 @@ protected:
     {
         if (!volume.isMounted())
             GTEST_SKIP() << "a second volume needs the right to mount: " << volume.error();
-        path = home.write(QStringLiteral("volume/p/x.jpg"), "x");
+        path = home.write(u"volume/p/x.jpg"_s, "x");
     }
 
-    Volume volume{home.path(QStringLiteral("volume"))};
-    QString own = QStringLiteral("volume/.Trash-%1").arg(::geteuid());
-    QString shared = QStringLiteral("volume/.Trash");
+    Volume volume{home.path(u"volume"_s)};
+    QString own = u"volume/.Trash-%1"_s.arg(::geteuid());
+    QString shared = u"volume/.Trash"_s;
     QString path;
 };
 
@@ -159,41 +148,40 @@ TEST_F(TrashOfVolume, StaysOnTheVolume)
         QDir(folder).removeRecursively();
         QFile::remove(folder);
         if (qstrcmp(what, "link") == 0)
-            QFile::link(home.path(QStringLiteral("elsewhere")), folder);
+            QFile::link(home.path(u"elsewhere"_s), folder);
         else if (qstrcmp(what, "nothing") != 0)
             QDir().mkpath(folder);
         ::chmod(folder.toUtf8().constData(), qstrcmp(what, "sticky") == 0 ? 01777 : 0777);
     };
-    QDir(home.path()).mkpath(QStringLiteral("elsewhere"));
+    QDir(home.path()).mkpath(u"elsewhere"_s);
     for (const char *what : {"nothing", "not sticky", "link", "sticky"}) {
         SCOPED_TRACE(what);
         provide(what);
         const QString used =
             qstrcmp(what, "sticky") == 0 ? shared + u'/' + QString::number(::geteuid()) : own;
         ASSERT_TRUE(discard(path, 7));
-        EXPECT_EQ(inTrash(used),
-                  (QStringList{QStringLiteral("x.jpg"), QStringLiteral("x.jpg.trashinfo")}));
-        EXPECT_EQ(TempHome::read(home.path(used + QStringLiteral("/info/x.jpg.trashinfo"))),
+        EXPECT_EQ(inTrash(used), (QStringList{u"x.jpg"_s, u"x.jpg.trashinfo"_s}));
+        EXPECT_EQ(TempHome::read(home.path(used + u"/info/x.jpg.trashinfo"_s)),
                   "[Trash Info]\nPath=p/x.jpg\nDeletionDate=2011-07-04T09:30:07\n");
         ASSERT_TRUE(trash.restore(path));
         EXPECT_EQ(TempHome::read(path), "x");
         EXPECT_TRUE(inTrash(used).isEmpty());
     }
-    EXPECT_FALSE(QFile::exists(home.path(QStringLiteral("Trash"))));
+    EXPECT_FALSE(QFile::exists(home.path(u"Trash"_s)));
 }
 
 TEST_F(TrashOfVolume, IsNotLedAstray)
 {
-    QDir(home.path()).mkpath(QStringLiteral("elsewhere"));
-    ASSERT_TRUE(QFile::link(home.path(QStringLiteral("elsewhere")), home.path(own)));
+    QDir(home.path()).mkpath(u"elsewhere"_s);
+    ASSERT_TRUE(QFile::link(home.path(u"elsewhere"_s), home.path(own)));
     EXPECT_FALSE(discard(path));
     EXPECT_EQ(TempHome::read(path), "x");
-    EXPECT_TRUE(QDir(home.path(QStringLiteral("elsewhere"))).isEmpty());
+    EXPECT_TRUE(QDir(home.path(u"elsewhere"_s)).isEmpty());
 }
 
 TEST_F(TrashOfVolume, FullOrReadOnlyItLosesNothing)
 {
-    const QString filler = home.path(QStringLiteral("volume/filler"));
+    const QString filler = home.path(u"volume/filler"_s);
     {
         QFile file(filler);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
@@ -205,7 +193,7 @@ TEST_F(TrashOfVolume, FullOrReadOnlyItLosesNothing)
     QFile::remove(filler);
 
     ASSERT_TRUE(discard(path));
-    const QString other = home.write(QStringLiteral("volume/other.jpg"), "other");
+    const QString other = home.write(u"volume/other.jpg"_s, "other");
     ASSERT_TRUE(volume.setReadOnly(true)) << volume.error();
     EXPECT_FALSE(trash.restore(path));
     EXPECT_FALSE(discard(other));
@@ -218,7 +206,7 @@ TEST_F(TrashOfVolume, FullOrReadOnlyItLosesNothing)
 TEST_F(TrashOfVolume, WithoutTheRightToMakeOneTheFileStays)
 {
     constexpr uid_t nobody = 65534;
-    const QByteArray folder = home.path(QStringLiteral("volume/p")).toUtf8();
+    const QByteArray folder = home.path(u"volume/p"_s).toUtf8();
     ASSERT_EQ(::chmod(home.path().toUtf8().constData(), 0755), 0);
     ASSERT_EQ(::chown(folder.constData(), nobody, nobody), 0);
     ASSERT_EQ(::seteuid(nobody), 0);
@@ -232,13 +220,13 @@ TEST_F(TrashOfHome, WorksInOrderAndAnswersLater)
 {
     FakeMainLoop loop;
     LinuxTrash worker(loop, trash);
-    const QString path = home.write(QStringLiteral("x.jpg"), "x");
+    const QString path = home.write(u"x.jpg"_s, "x");
     QList<bool> answers;
     const auto note = [&](const QList<FileResult<void>> &results) {
         for (const auto &result : results)
             answers.append(result.has_value());
     };
-    worker.moveToTrash({path, home.path(QStringLiteral("none"))}, note);
+    worker.moveToTrash({path, home.path(u"none"_s)}, note);
     worker.restore({path}, note);
     worker.moveToTrash({}, {});
     EXPECT_TRUE(answers.isEmpty());
@@ -249,4 +237,3 @@ TEST_F(TrashOfHome, WorksInOrderAndAnswersLater)
 }
 
 } // namespace
-} // namespace moravel
