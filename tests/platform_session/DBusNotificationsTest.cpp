@@ -4,30 +4,24 @@
 #include "FakeServices.h"
 #include "PrivateBus.h"
 #include "support/FakeImages.h"
-#include "support/TempHome.h"
-#include "support/Wait.h"
-
-namespace moravel {
+#include "support/Test.h"
 
 namespace {
 
-using namespace moravel::testing;
-
-const QStringList Everything{QStringLiteral("body"), QStringLiteral("body-markup"),
-                             QStringLiteral("actions")};
+const QStringList Everything{u"body"_s, u"body-markup"_s, u"actions"_s};
 
 class Program : public NotificationsDelegate
 {
 public:
     NotificationRegistration registrationDictionaryForGrowl() const override
     {
-        const QStringList names{QStringLiteral("News")};
+        const QStringList names{u"News"_s};
         return {.allNotifications = names, .defaultNotifications = names};
     }
 
     void growlNotificationWasClicked(const std::optional<QString> &context) override
     {
-        clicks.append(context.value_or(QStringLiteral("(none)")));
+        clicks.append(context.value_or(u"(none)"_s));
     }
 
     QStringList clicks;
@@ -40,12 +34,12 @@ protected:
 
     static Notification notification(const std::optional<QString> &context = {})
     {
-        return {.title = QStringLiteral("A & B"),
-                .description = QStringLiteral("<i>x</i>"),
-                .name = QStringLiteral("News"),
+        return {.title = u"A & B"_s,
+                .description = u"<i>x</i>"_s,
+                .name = u"News"_s,
                 .picture = {},
                 .clickContext = context,
-                .clickLabel = QStringLiteral("Take")};
+                .clickLabel = u"Take"_s};
     }
 
     // Posts and waits until the program has the answer, in which the id of the notification stands.
@@ -72,38 +66,31 @@ protected:
 
 TEST_F(DBusNotificationsTest, postsWhatTheServiceCanShow)
 {
-    const QStringList action{QStringLiteral("default"), QStringLiteral("Take")};
+    const QStringList action{u"default"_s, u"Take"_s};
 
-    const struct
-    {
-        QStringList abilities;
-        std::optional<QString> context;
-        QString body;
-        QStringList actions;
-    } rows[] = {
-        {Everything, {}, QStringLiteral("&lt;i&gt;x&lt;/i&gt;"), {}},
-        {Everything, QStringLiteral("c"), QStringLiteral("&lt;i&gt;x&lt;/i&gt;"), action},
-        {{QStringLiteral("actions")}, QStringLiteral("c"), QStringLiteral("<i>x</i>"), action},
-        {{}, QStringLiteral("c"), QStringLiteral("<i>x</i>"), {}},
+    const Table<QStringList, std::optional<QString>, QString, QStringList> rows{
+        {Everything, {}, u"&lt;i&gt;x&lt;/i&gt;"_s, {}},
+        {Everything, u"c"_s, u"&lt;i&gt;x&lt;/i&gt;"_s, action},
+        {{u"actions"_s}, u"c"_s, u"<i>x</i>"_s, action},
+        {{}, u"c"_s, u"<i>x</i>"_s, {}},
     };
-
-    for (const auto &row : rows) {
-        SCOPED_TRACE(qPrintable(row.abilities.join(u' ')));
-        FakeDaemon daemon(bus.connection(), row.abilities);
+    for (const auto &[abilities, context, body, actions] : rows) {
+        SCOPED_TRACE(qPrintable(abilities.join(u' ')));
+        FakeDaemon daemon(bus.connection(), abilities);
         settle();
-        notifications.notify(notification(row.context));
-        notifications.notify(notification(row.context));
+        notifications.notify(notification(context));
+        notifications.notify(notification(context));
         MORAVEL_WAIT(daemon.shown.size() == 2);
         EXPECT_EQ(daemon.asked, 1);
         const FakeDaemon::Shown &shown = daemon.shown.last();
-        EXPECT_EQ(shown.application, QStringLiteral("Moravel"));
-        EXPECT_EQ(shown.icon, QStringLiteral("moravel"));
-        EXPECT_EQ(shown.title, QStringLiteral("A & B"));
-        EXPECT_EQ(shown.body, row.body);
-        EXPECT_EQ(shown.actions, row.actions);
+        EXPECT_EQ(shown.application, u"Moravel"_s);
+        EXPECT_EQ(shown.icon, u"moravel"_s);
+        EXPECT_EQ(shown.title, u"A & B"_s);
+        EXPECT_EQ(shown.body, body);
+        EXPECT_EQ(shown.actions, actions);
         EXPECT_EQ(shown.timeout, -1);
-        EXPECT_EQ(shown.hints.value(QStringLiteral("urgency")).value<uchar>(), 1);
-        EXPECT_FALSE(shown.hints.contains(QStringLiteral("image-data")));
+        EXPECT_EQ(shown.hints.value(u"urgency"_s).value<uchar>(), 1);
+        EXPECT_FALSE(shown.hints.contains(u"image-data"_s));
     }
 }
 
@@ -112,9 +99,9 @@ TEST_F(DBusNotificationsTest, showsThePictureIfItCanBeRead)
     const TempHome home;
     FakeDaemon daemon(bus.connection(), Everything);
     Notification with = notification();
-    with.picture = home.write(QStringLiteral("a.jpg"), "IMG");
+    with.picture = home.write(u"a.jpg"_s, "IMG");
     notifications.notify(with);
-    with.picture = home.path(QStringLiteral("missing.jpg"));
+    with.picture = home.path(u"missing.jpg"_s);
     notifications.notify(with);
     notifications.notify(notification()); // waits for its turn
     MORAVEL_WAIT(daemon.asked == 1);
@@ -129,7 +116,7 @@ TEST_F(DBusNotificationsTest, showsThePictureIfItCanBeRead)
     EXPECT_EQ(picture.channels, 3);
     EXPECT_FALSE(picture.hasAlpha);
     EXPECT_EQ(picture.pixels, QByteArray("\x00\x80\x80", 3).repeated(12));
-    EXPECT_FALSE(daemon.shown.last().hints.contains(QStringLiteral("image-data")));
+    EXPECT_FALSE(daemon.shown.last().hints.contains(u"image-data"_s));
 }
 
 TEST_F(DBusNotificationsTest, onlyTheServicesClickOnAnOpenNotificationCounts)
@@ -141,25 +128,25 @@ TEST_F(DBusNotificationsTest, onlyTheServicesClickOnAnOpenNotificationCounts)
         post(daemon, QString::fromLatin1(context));
     post(daemon, std::nullopt);
 
-    QDBusMessage forged = QDBusMessage::createSignal(
-        QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("ActionInvoked"));
-    forged << uint(1) << QStringLiteral("default");
+    QDBusMessage forged =
+        QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
+                                   u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);
+    forged << uint(1) << u"default"_s;
     strangerBus.send(forged);
     PrivateBus::flush(strangerBus);
     Q_EMIT daemon.NotificationClosed(2, 1);
     for (const uint id : {0u, 2u, 4u, 5u, 0xFFFFFFFFu})
-        Q_EMIT daemon.ActionInvoked(id, QStringLiteral("default"));
-    Q_EMIT daemon.ActionInvoked(1, QStringLiteral("other"));
-    Q_EMIT daemon.ActionInvoked(3, QStringLiteral("default"));
+        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
+    Q_EMIT daemon.ActionInvoked(1, u"other"_s);
+    Q_EMIT daemon.ActionInvoked(3, u"default"_s);
     MORAVEL_WAIT(!program.clicks.isEmpty());
-    EXPECT_EQ(program.clicks, QStringList{QStringLiteral("three")});
+    EXPECT_EQ(program.clicks, QStringList{u"three"_s});
 
     notifications.setGrowlDelegate(nullptr);
-    Q_EMIT daemon.ActionInvoked(3, QStringLiteral("default"));
+    Q_EMIT daemon.ActionInvoked(3, u"default"_s);
     notifications.notify(notification()); // no one is registered, so no name is
     notifications.setGrowlDelegate(&program);
-    post(daemon, QStringLiteral("five"));
+    post(daemon, u"five"_s);
     EXPECT_EQ(daemon.shown.size(), 5);
 }
 
@@ -169,9 +156,9 @@ TEST_F(DBusNotificationsTest, forgetsTheOldestContexts)
     for (int i = 0; i <= DBusNotifications::MostContexts; ++i)
         post(daemon, QString::number(i + 1));
     for (const uint id : {1u, 2u})
-        Q_EMIT daemon.ActionInvoked(id, QStringLiteral("default"));
+        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
     MORAVEL_WAIT(!program.clicks.isEmpty());
-    EXPECT_EQ(program.clicks, QStringList{QStringLiteral("2")});
+    EXPECT_EQ(program.clicks, QStringList{u"2"_s});
 }
 
 TEST_F(DBusNotificationsTest, aMissingOrBrokenServiceIsNoErrorAndALaterOneIsUsed)
@@ -188,21 +175,19 @@ TEST_F(DBusNotificationsTest, aMissingOrBrokenServiceIsNoErrorAndALaterOneIsUsed
         PrivateBus::flush(firstBus);
         settle();
         first.broken = false;
-        post(first, QStringLiteral("old"));
+        post(first, u"old"_s);
         EXPECT_EQ(first.shown.size(), 1);
     }
-    FakeDaemon daemon(bus.connection(), {QStringLiteral("actions")});
+    FakeDaemon daemon(bus.connection(), {u"actions"_s});
     settle();
     post(daemon, std::nullopt);
-    post(daemon, QStringLiteral("new"));
+    post(daemon, u"new"_s);
     EXPECT_EQ(daemon.asked, 1);
-    EXPECT_EQ(daemon.shown.first().body, QStringLiteral("<i>x</i>"));
+    EXPECT_EQ(daemon.shown.first().body, u"<i>x</i>"_s);
     for (const uint id : {1u, 2u})
-        Q_EMIT daemon.ActionInvoked(id, QStringLiteral("default"));
+        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
     MORAVEL_WAIT(!program.clicks.isEmpty());
-    EXPECT_EQ(program.clicks, QStringList{QStringLiteral("new")});
+    EXPECT_EQ(program.clicks, QStringList{u"new"_s});
 }
 
 } // namespace
-
-} // namespace moravel

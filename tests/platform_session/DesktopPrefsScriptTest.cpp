@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/LinuxWorkspace.h"
 
 #include <QDBusConnection>
-#include <QFile>
-
-namespace moravel {
 
 namespace {
-
-using namespace moravel::testing;
 
 // A PATH that holds what the script itself uses, and the named programs, which note how they were called.
 class Programs
@@ -20,8 +14,7 @@ public:
     explicit Programs(const QStringList &names, int exitCode = 0)
     {
         for (const char *tool : {"tr", "sleep"})
-            QFile::link(QStringLiteral("/usr/bin/") + QLatin1String(tool),
-                        m_home.path(QLatin1String(tool)));
+            QFile::link(u"/usr/bin/"_s + QLatin1String(tool), m_home.path(QLatin1String(tool)));
         for (const QString &name : names) {
             const QString path =
                 m_home.write(name,
@@ -39,7 +32,7 @@ public:
     QString called() const { return QString::fromUtf8(TempHome::read(log())).trimmed(); }
 
 private:
-    QString log() const { return m_home.path(QStringLiteral("log")); }
+    QString log() const { return m_home.path(u"log"_s); }
 
     const QByteArray m_before = qgetenv("PATH");
     const TempHome m_home;
@@ -48,20 +41,17 @@ private:
 QString errorOf(const char *desktop)
 {
     qputenv("XDG_CURRENT_DESKTOP", desktop);
-    LinuxWorkspace workspace(QDBusConnection(QStringLiteral("none")));
+    LinuxWorkspace workspace(QDBusConnection(u"none"_s));
     std::optional<QString> error;
     workspace.openDesktopSettings([&error](const QString &text) { error = text; });
     EXPECT_TRUE(waitFor([&error] { return error.has_value(); }));
     qunsetenv("XDG_CURRENT_DESKTOP");
-    return error.value_or(QStringLiteral("(no answer)"));
+    return error.value_or(u"(no answer)"_s);
 }
 
 TEST(DesktopPrefsScript, opensTheSettingsOfTheRunningDesktop)
 {
-    const struct
-    {
-        const char *desktop, *installed, *called;
-    } rows[] = {
+    const Table<const char *, const char *, const char *> rows{
         {"GNOME", "gnome-control-center xfdesktop-settings", "gnome-control-center background"},
         {"ubuntu:GNOME", "gnome-control-center", "gnome-control-center background"},
         {"GNOME-Flashback:GNOME", "gnome-control-center", "gnome-control-center background"},
@@ -84,43 +74,25 @@ TEST(DesktopPrefsScript, opensTheSettingsOfTheRunningDesktop)
     };
 
     qunsetenv("WAYLAND_DISPLAY");
-    for (const auto &row : rows) {
-        SCOPED_TRACE(::testing::Message() << row.desktop << ", " << row.installed);
-        const Programs programs(QString::fromLatin1(row.installed).split(u' '));
-        EXPECT_EQ(errorOf(row.desktop), QString());
-        EXPECT_EQ(programs.called(), QString::fromLatin1(row.called));
+    for (const auto &[desktop, installed, called] : rows) {
+        SCOPED_TRACE(::testing::Message() << desktop << ", " << installed);
+        const Programs programs(QString::fromLatin1(installed).split(u' '));
+        EXPECT_EQ(errorOf(desktop), QString());
+        EXPECT_EQ(programs.called(), QString::fromLatin1(called));
     }
 }
 
 TEST(DesktopPrefsScript, saysWhatFailed)
 {
     {
-        const Programs failing({QStringLiteral("xfdesktop-settings")}, 7);
-        EXPECT_EQ(errorOf("XFCE"),
-                  QStringLiteral("The program xfdesktop-settings ended with error 7."));
+        const Programs failing({u"xfdesktop-settings"_s}, 7);
+        EXPECT_EQ(errorOf("XFCE"), u"The program xfdesktop-settings ended with error 7."_s);
     }
     const Programs none({});
-
-    const struct
-    {
-        const char *desktop, *error;
-    } rows[] = {
-        {"Budgie:GNOME",
-         "No desktop settings were found for Budgie:GNOME (looked for "
-         "budgie-control-center gnome-control-center budgie-desktop-settings "
-         "gnome-control-center)."},
-        {"", "No desktop settings were found for this desktop (looked for waypaper nitrogen)."},
-        {"$(touch x):*:%s\\n;-e",
-         "No desktop settings were found for $(touch x):*:%s\\n;-e (looked for waypaper "
-         "nitrogen)."},
-    };
-
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.desktop);
-        EXPECT_EQ(errorOf(row.desktop), QString::fromLatin1(row.error));
-    }
+    for (const char *desktop : {"$(touch x):*:%s\\n;-e", "this desktop"})
+        EXPECT_EQ(errorOf(desktop == std::string("this desktop") ? "" : desktop),
+                  u"No desktop settings were found for %1 (looked for waypaper nitrogen)."_s.arg(
+                      QLatin1String(desktop)));
 }
 
 } // namespace
-
-} // namespace moravel

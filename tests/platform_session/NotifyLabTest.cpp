@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Against a real notification service, named by LAB_DAEMON; what is shown is looked for on the screen.
 #include "support/Lab.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/DBusNotifications.h"
 #include "platform/qt/QtImages.h"
@@ -12,12 +13,9 @@
 
 #include <csignal>
 
-using namespace moravel;
-using namespace moravel::testing;
-
 namespace {
 
-const QString Service = QStringLiteral("org.freedesktop.Notifications");
+const QString Service = u"org.freedesktop.Notifications"_s;
 
 class NotifyLab : public ::testing::Test, public NotificationsDelegate
 {
@@ -26,7 +24,7 @@ protected:
 
     NotificationRegistration registrationDictionaryForGrowl() const override
     {
-        const QStringList names{QStringLiteral("Moravel")};
+        const QStringList names{u"Moravel"_s};
         return {.allNotifications = names, .defaultNotifications = names};
     }
 
@@ -40,17 +38,17 @@ protected:
     {
         QImage image(600, 400, QImage::Format_RGB32);
         image.fill(colour);
-        const QString path = folder.filePath(colour.name().mid(1) + QStringLiteral(".png"));
+        const QString path = folder.filePath(colour.name().mid(1) + u".png"_s);
         EXPECT_TRUE(image.save(path));
         QElapsedTimer timer;
         timer.start();
-        notifications.notify({.title = QStringLiteral("New picture of the day"),
-                              .description = QStringLiteral("Sky & Stars\nJuly 4\n<b>Moon</b>"),
-                              .name = QStringLiteral("Moravel"),
+        notifications.notify({.title = u"New picture of the day"_s,
+                              .description = u"Sky & Stars\nJuly 4\n<b>Moon</b>"_s,
+                              .name = u"Moravel"_s,
                               .picture = path,
                               .sticky = true,
                               .clickContext = context,
-                              .clickLabel = QStringLiteral("Set as desktop")});
+                              .clickLabel = u"Set as desktop"_s});
         return timer.elapsed();
     }
 
@@ -77,7 +75,7 @@ protected:
 
     static QByteArray dunst(const char *arguments)
     {
-        const QString line = QStringLiteral("dunstctl ") + QLatin1String(arguments);
+        const QString line = u"dunstctl "_s + QLatin1String(arguments);
         const Ended ended = runProgram(line.split(u' '));
         EXPECT_EQ(ended.code, 0);
         return ended.output;
@@ -98,30 +96,22 @@ protected:
 
 TEST_F(NotifyLab, showsThePictureAndTakesAClickOnlyWithAContext)
 {
-    const struct
-    {
-        QColor colour;
-        std::optional<QString> context;
-        QStringList clicks;
-    } table[] = {
+    const Table<QColor, std::optional<QString>, QStringList> table{
         {QColor(200, 0, 100), {}, {}},
-        {QColor(0, 150, 200),
-         QStringLiteral("growlClickContext"),
-         {QStringLiteral("growlClickContext")}},
+        {QColor(0, 150, 200), u"growlClickContext"_s, {u"growlClickContext"_s}},
     };
-
-    for (const auto &row : table) {
+    for (const auto &[colour, context, clicks] : table) {
         clicks.clear();
-        EXPECT_LT(post(row.colour, row.context), 50);
+        EXPECT_LT(post(colour, context), 50);
         std::optional<QPoint> place;
-        MORAVEL_WAIT((place = findColour(row.colour)).has_value());
+        MORAVEL_WAIT((place = findColour(colour)).has_value());
         keepShot();
-        click(*place, row.context.has_value());
-        MORAVEL_WAIT(clicks.size() >= row.clicks.size());
+        click(*place, context.has_value());
+        MORAVEL_WAIT(clicks.size() >= clicks.size());
         if (daemon == "dunst")
             dunst("close-all");
-        MORAVEL_WAIT(!findColour(row.colour)); // taken, it goes
-        EXPECT_EQ(clicks, row.clicks);
+        MORAVEL_WAIT(!findColour(colour)); // taken, it goes
+        EXPECT_EQ(clicks, clicks);
     }
     if (daemon != "dunst")
         return;
@@ -151,13 +141,13 @@ TEST_F(NotifyLab, waitsForNoService)
     ::kill(id, SIGKILL);
     MORAVEL_WAIT(!daemonId());
     for (int i = 0; i < 20; ++i)
-        EXPECT_LT(post(QColor(0, 120, 120), QStringLiteral("x")), 50);
+        EXPECT_LT(post(QColor(0, 120, 120), u"x"_s), 50);
     EXPECT_TRUE(waitFor([&] { return timer.elapsed() > 1'500; }));
     EXPECT_FALSE(findColour(QColor(0, 120, 120)));
     if (daemon != "dunst")
         return;
     QProcess again;
-    again.start(QStringLiteral("dunst"), {});
+    again.start(u"dunst"_s, {});
     MORAVEL_WAIT(daemonId());
     post(QColor(60, 0, 180), {});
     MORAVEL_WAIT(findColour(QColor(60, 0, 180)).has_value());

@@ -3,22 +3,18 @@
 #include "platform/linux/session/ProgramInstance.h"
 
 #include "PrivateBus.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include <QProcess>
 
-namespace moravel {
-
 namespace {
-
-using namespace moravel::testing;
 
 class ProgramInstanceTest : public ::testing::Test
 {
 protected:
     ProgramInstanceTest()
     {
-        instance.onActivate = [this] { asked.append(QStringLiteral("activate")); };
+        instance.onActivate = [this] { asked.append(u"activate"_s); };
         instance.onAction = [this](const QString &action,
                                    const QVariantList &arguments) -> tl::expected<void, QString> {
             QStringList call{action};
@@ -26,7 +22,7 @@ protected:
                 call.append(argument.toString());
             asked.append(call.join(u'|'));
             if (action == u"no")
-                return tl::unexpected(QStringLiteral("I won't."));
+                return tl::unexpected(u"I won't."_s);
             return {};
         };
     }
@@ -35,8 +31,8 @@ protected:
     void start(const char *arguments)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         other.setProcessEnvironment(environment);
         other.start(QStringLiteral(MORAVEL_EXECUTABLE),
                     QProcess::splitCommand(QString::fromLatin1(arguments)));
@@ -56,12 +52,7 @@ protected:
 
 TEST_F(ProgramInstanceTest, answersOtherProcesses)
 {
-    const struct
-    {
-        const char *arguments;
-        int exitCode;
-        const char *error, *asked;
-    } table[] = {
+    const Table<const char *, int, const char *, const char *> table{
         {"--command next", 0, "", "next"},
         {"--command=no", 1, "moravel: I won't.", "no"},
         {"", 0, "", "activate"},
@@ -69,15 +60,18 @@ TEST_F(ProgramInstanceTest, answersOtherProcesses)
         {"--command", 2, "moravel: --command needs next, previous or hold", ""},
     };
 
+    start("--command next");
+    EXPECT_EQ(end(), 3);
+    EXPECT_TRUE(other.readAllStandardError().contains("moravel: Moravel is not running\n"));
     ASSERT_EQ(instance.claim(), ProgramInstance::Claim::First);
     instance.ready();
-    for (const auto &row : table) {
-        SCOPED_TRACE(row.arguments);
+    for (const auto &[arguments, exitCode, error, calls] : table) {
+        SCOPED_TRACE(arguments);
         asked.clear();
-        start(row.arguments);
-        EXPECT_EQ(end(), row.exitCode);
-        EXPECT_TRUE(other.readAllStandardError().contains(row.error));
-        EXPECT_EQ(asked.join(u';'), QLatin1String(row.asked));
+        start(arguments);
+        EXPECT_EQ(end(), exitCode);
+        EXPECT_TRUE(other.readAllStandardError().contains(error));
+        EXPECT_EQ(asked.join(u';'), QLatin1String(calls));
     }
 }
 
@@ -88,9 +82,8 @@ TEST_F(ProgramInstanceTest, requestsWaitUntilItIsReady)
     EXPECT_EQ(second.claim(), ProgramInstance::Claim::Second);
     start("--command hold");
     QDBusConnection caller = bus.connection();
-    auto call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.moravel.Moravel"), QStringLiteral("/org/moravel/Moravel"),
-        QStringLiteral("org.freedesktop.Application"), QStringLiteral("Activate"));
+    auto call = QDBusMessage::createMethodCall(u"org.moravel.Moravel"_s, u"/org/moravel/Moravel"_s,
+                                               u"org.freedesktop.Application"_s, u"Activate"_s);
     call << QVariantMap();
     QList<QDBusPendingCall> calls;
     for (int i = 0; i <= ProgramInstance::MostWaiting; ++i)
@@ -105,13 +98,4 @@ TEST_F(ProgramInstanceTest, requestsWaitUntilItIsReady)
     end();
 }
 
-TEST_F(ProgramInstanceTest, saysThatNothingRuns)
-{
-    start("--command next");
-    EXPECT_EQ(end(), 3);
-    EXPECT_TRUE(other.readAllStandardError().contains("moravel: Moravel is not running\n"));
-}
-
 } // namespace
-
-} // namespace moravel

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/GioPrograms.h"
 
-#include <QDir>
-#include <QFile>
-
-namespace moravel {
 namespace {
 
 void write(const QString &path, const QByteArray &text)
@@ -18,22 +14,20 @@ void write(const QString &path, const QByteArray &text)
 
 TEST(Programs, HaveTheIconsOfTheirDesktopEntries)
 {
-    const QString data = qEnvironmentVariable("XDG_DATA_HOME") + QStringLiteral("/applications/");
+    const QString data = qEnvironmentVariable("XDG_DATA_HOME") + u"/applications/"_s;
     const QByteArray entry = "[Desktop Entry]\nType=Application\nName=x\nExec=true %u\nIcon=";
-    write(data + QStringLiteral("web.desktop"), entry + "some-browser\n");
-    write(data + QStringLiteral("mail.desktop"), entry + "/some/where/mail.png\n");
+    write(data + u"web.desktop"_s, entry + "some-browser\n");
+    write(data + u"mail.desktop"_s, entry + "/some/where/mail.png\n");
     write(
-        qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/mimeapps.list"),
+        qEnvironmentVariable("XDG_CONFIG_HOME") + u"/mimeapps.list"_s,
         "[Default "
         "Applications]\nx-scheme-handler/http=web.desktop\nx-scheme-handler/mailto=mail.desktop\n");
     GioPrograms programs;
-    EXPECT_EQ(programs.iconForScheme(QStringLiteral("http")), QString()) << "waits";
-    MORAVEL_WAIT(!programs.iconForScheme(QStringLiteral("mailto")).isEmpty());
-    EXPECT_EQ(programs.iconForScheme(QStringLiteral("http")), QStringLiteral("some-browser"));
-    EXPECT_EQ(programs.iconForScheme(QStringLiteral("mailto")),
-              QStringLiteral("/some/where/mail.png"));
-    EXPECT_EQ(programs.iconForScheme(QStringLiteral("no such scheme")), QString());
+    EXPECT_EQ(programs.iconForScheme(u"http"_s), QString()) << "waits";
+    MORAVEL_WAIT(!programs.iconForScheme(u"mailto"_s).isEmpty());
+    EXPECT_EQ(programs.iconForScheme(u"http"_s), u"some-browser"_s);
+    EXPECT_EQ(programs.iconForScheme(u"mailto"_s), u"/some/where/mail.png"_s);
+    EXPECT_EQ(programs.iconForScheme(u"no such scheme"_s), QString());
 }
 
 } // namespace
-} // namespace moravel

@@ -2,19 +2,14 @@
 #include "platform/linux/session/SessionEvents.h"
 
 #include "PrivateBus.h"
-#include "support/Wait.h"
-
-namespace moravel {
+#include "support/Test.h"
 
 namespace {
-
-using namespace moravel::testing;
 
 void announceSleep(const QDBusConnection &from, bool begins)
 {
     QDBusMessage signal = QDBusMessage::createSignal(
-        QStringLiteral("/org/freedesktop/login1"), QStringLiteral("org.freedesktop.login1.Manager"),
-        QStringLiteral("PrepareForSleep"));
+        u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s);
     signal << begins;
     from.send(signal);
     PrivateBus::flush(from);
@@ -30,7 +25,7 @@ TEST(SessionEvents, tellsOfEachResumeThatTheLogInServiceAnnounces)
     events.onResume = [&resumes] { ++resumes; };
     announceSleep(bus.connection(), false); // anyone's word, and no service yet
 
-    logind.registerService(QStringLiteral("org.freedesktop.login1"));
+    logind.registerService(u"org.freedesktop.login1"_s);
     announceSleep(bus.connection(), false);
     announceSleep(logind, true);
     announceSleep(logind, false);
@@ -44,10 +39,8 @@ TEST(SessionEvents, tellsOfEachResumeThatTheLogInServiceAnnounces)
 
 TEST(SessionEvents, aMissingBusChangesNothing)
 {
-    const SessionEvents events(QDBusConnection(QStringLiteral("no such bus")));
+    const SessionEvents events(QDBusConnection(u"no such bus"_s));
     QCoreApplication::processEvents();
 }
 
 } // namespace
-
-} // namespace moravel

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The settings of the running desktop are opened for real; their window is looked for.
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/LinuxWorkspace.h"
 
 #include <QHash>
 #include <QProcess>
-
-using namespace moravel;
-using namespace moravel::testing;
 
 namespace {
 
@@ -27,7 +24,7 @@ TEST(SettingsLab, opensTheWindow)
     EXPECT_EQ(*error, QString());
     const auto isThere = [&window] {
         QProcess list;
-        list.start(QStringLiteral("xlsclients"), {QStringLiteral("-l")});
+        list.start(u"xlsclients"_s, {u"-l"_s});
         return list.waitForFinished() && list.readAllStandardOutput().toLower().contains(window);
     };
     EXPECT_TRUE(waitFor(isThere));

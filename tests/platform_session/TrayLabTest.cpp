@@ -2,16 +2,12 @@
 // The tray icon in a real panel: seen on the screen, its menu read and used over the bus as panels do.
 #include "support/FakeMainLoop.h"
 #include "support/Lab.h"
+#include "support/Test.h"
 
 #include "desktop/DockMenu.h"
 #include "platform/linux/session/QtTray.h"
 
 #include <QRegularExpression>
-
-#include <gtest/gtest.h>
-
-using namespace moravel;
-using namespace moravel::testing;
 
 namespace {
 
@@ -36,11 +32,10 @@ protected:
     /// The connection behind the one item that the panel has.
     static QString itemOwner()
     {
-        const Ended ended = runProgram(
-            QStringLiteral("gdbus call --session -d org.kde.StatusNotifierWatcher "
-                           "-o /StatusNotifierWatcher -m org.freedesktop.DBus.Properties.Get "
-                           "org.kde.StatusNotifierWatcher RegisteredStatusNotifierItems")
-                .split(u' '));
+        const Ended ended =
+            runProgram(u"gdbus call --session -d org.kde.StatusNotifierWatcher "
+                       "-o /StatusNotifierWatcher -m org.freedesktop.DBus.Properties.Get "
+                       "org.kde.StatusNotifierWatcher RegisteredStatusNotifierItems"_s.split(u' '));
         return QString::fromUtf8(ended.output).section(u'\'', 1, 1).section(u'/', 0, 0);
     }
 
@@ -48,8 +43,8 @@ protected:
     static QString menu(const char *method, const QStringList &arguments)
     {
         const QString call =
-            QStringLiteral("gdbus call --session -d %1 -o /MenuBar -m com.canonical.dbusmenu.%2 --")
-                .arg(itemOwner(), QLatin1String(method));
+            u"gdbus call --session -d %1 -o /MenuBar -m com.canonical.dbusmenu.%2 --"_s.arg(
+                itemOwner(), QLatin1String(method));
         const Ended ended = runProgram(call.split(u' ') + arguments);
         EXPECT_EQ(ended.code, 0);
         return QString::fromUtf8(ended.output);
@@ -62,7 +57,7 @@ protected:
         QString label() const
         {
             static const QRegularExpression text(
-                QStringLiteral("'label': <(?:'((?:[^'\\\\]|\\\\.)*)'|\"([^\"]*)\")>"));
+                u"'label': <(?:'((?:[^'\\\\]|\\\\.)*)'|\"([^\"]*)\")>"_s);
             const auto match = text.match(properties);
             return match.captured(1) + match.captured(2);
         }
@@ -70,10 +65,8 @@ protected:
 
     static QList<Line> lines()
     {
-        const QString layout =
-            menu("GetLayout", {QStringLiteral("0"), QStringLiteral("-1"), QStringLiteral("[]")});
-        static const QRegularExpression line(
-            QStringLiteral("<\\((\\d+), \\{(.*?)\\}, @av \\[\\]\\)>"));
+        const QString layout = menu("GetLayout", {u"0"_s, u"-1"_s, u"[]"_s});
+        static const QRegularExpression line(u"<\\((\\d+), \\{(.*?)\\}, @av \\[\\]\\)>"_s);
         QList<Line> list;
         for (auto match = line.globalMatch(layout); match.hasNext();) {
             const auto one = match.next();
@@ -97,10 +90,10 @@ protected:
         tray.setImage(image);
     }
 
-    DockMenuState state{.longSourceName = QStringLiteral("Sky & Stars_1"),
-                        .dateString = QStringLiteral("July 4, 2011"),
-                        .captionString = QStringLiteral("Moon"),
-                        .rotateInfoText = QStringLiteral("Next change in 5 minutes"),
+    DockMenuState state{.longSourceName = u"Sky & Stars_1"_s,
+                        .dateString = u"July 4, 2011"_s,
+                        .captionString = u"Moon"_s,
+                        .rotateInfoText = u"Next change in 5 minutes"_s,
                         .rotateFrequency = 30,
                         .hasPrevious = true};
     QList<DockCommand> commands;
@@ -119,10 +112,9 @@ TEST_F(TrayLab, showsTheIconAndTheMenuAndTakesCommands)
               head + "Keep this desktop for 1 hour|Change desktop now|Back to previous desktop");
     const QList<Line> shown = lines();
     ASSERT_EQ(shown.size(), 7);
-    EXPECT_TRUE(shown[3].properties.contains(QLatin1String("'enabled': <false>")));
+    EXPECT_TRUE(shown[3].properties.contains("'enabled': <false>"_L1));
     for (const Line &line : shown)
-        menu("Event",
-             {line.id, QStringLiteral("clicked"), QStringLiteral("<\"\">"), QStringLiteral("0")});
+        menu("Event", {line.id, u"clicked"_s, u"<\"\">"_s, u"0"_s});
     using enum DockCommand;
     const QList<DockCommand> expected{ShowDesktopInfo, ShowDesktopInfo, HoldForOneHour,
                                       RotateDesktop, PreviousDesktop};
@@ -132,7 +124,7 @@ TEST_F(TrayLab, showsTheIconAndTheMenuAndTakesCommands)
     // Made anew when it opens, and with another picture.
     state.hasPrevious = false;
     state.rotateFrequency = 60;
-    menu("AboutToShow", {QStringLiteral("0")});
+    menu("AboutToShow", {u"0"_s});
     EXPECT_EQ(labels(), head + "Change desktop now");
     const QColor green(0, 250, 100);
     show(green);

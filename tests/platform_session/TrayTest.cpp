@@ -1,27 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "PrivateBus.h"
-#include "support/ExpectWarning.h"
 #include "support/FakeMainLoop.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/QtTray.h"
 
 #include <QAction>
 
-namespace moravel {
-
 namespace {
 
-using namespace moravel::testing;
-
-const QString Watcher = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString Watcher = u"org.kde.StatusNotifierWatcher"_s;
 
 TEST(TrayLabel, showsTheTitleAsItIs)
 {
-    const struct
-    {
-        const char *title, *panel, *embedded;
-    } rows[] = {
+    const Table<const char *, const char *, const char *> rows{
         {"Back", "Back", "Back"},
         {"a_b & c_d", "a__b && c__d", "a_b && c_d"}, // Qt makes "a__b _& c__d" of it
         {"A & B & C", "A && B & C", "A && B && C"},
@@ -29,33 +21,26 @@ TEST(TrayLabel, showsTheTitleAsItIs)
         {" two\nlines\t ", "two lines", "two lines"},
         {"\n", " ", " "},
     };
-
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.title);
-        const QString title = QString::fromUtf8(row.title);
-        EXPECT_EQ(trayLabel(title, TrayKind::StatusNotifier), QString::fromUtf8(row.panel));
-        EXPECT_EQ(trayLabel(title, TrayKind::Embedded), QString::fromUtf8(row.embedded));
+    for (const auto &[title, panel, embedded] : rows) {
+        EXPECT_EQ(trayLabel(QLatin1String(title), TrayKind::StatusNotifier), QLatin1String(panel));
+        EXPECT_EQ(trayLabel(QLatin1String(title), TrayKind::Embedded), QLatin1String(embedded));
     }
     EXPECT_EQ(trayLabel(QString(100'000, u'x'), TrayKind::Embedded).size(), 100);
 }
 
 TEST(TrayHosts, prefersThePanelAndTakesWhatComes)
 {
-    const struct
-    {
-        bool embedding, watcher;
-        double after; // seconds until the watcher comes
-        QList<TrayKind> found;
-    } rows[] = {
+    using enum TrayKind;
+    // the last number: seconds until the watcher comes
+    const Table<bool, bool, double, QList<TrayKind>> rows{
         {false, false, 0, {}},
-        {true, false, 0, {TrayKind::Embedded}},
-        {false, true, 100, {TrayKind::StatusNotifier}},
-        {true, true, 1, {TrayKind::StatusNotifier}},
-        {true, true, 3, {TrayKind::Embedded}},
+        {true, false, 0, {Embedded}},
+        {false, true, 100, {StatusNotifier}},
+        {true, true, 1, {StatusNotifier}},
+        {true, true, 3, {Embedded}},
     };
-
-    for (const auto &row : rows) {
-        SCOPED_TRACE(::testing::Message() << row.embedding << row.watcher << row.after);
+    for (const auto &[embedding, watcher, after, kinds] : rows) {
+        SCOPED_TRACE(::testing::Message() << embedding << watcher << after);
         PrivateBus bus;
         FakeMainLoop loop;
         TrayHosts hosts(bus.connection(), loop);
@@ -63,16 +48,16 @@ TEST(TrayHosts, prefersThePanelAndTakesWhatComes)
         QDBusConnection panel = bus.connection();
         QList<TrayKind> found;
         QObject::connect(&hosts, &TrayHosts::found, [&found](TrayKind kind) { found << kind; });
-        if (row.embedding)
+        if (embedding)
             hosts.embeddingTrayIsThere();
-        loop.advance(row.after);
-        if (row.watcher) {
+        loop.advance(after);
+        if (watcher) {
             panel.registerService(Watcher);
             MORAVEL_WAIT(seen.isOwned());
             MORAVEL_WAIT(!found.isEmpty());
         }
         loop.advance(10);
-        EXPECT_EQ(found, row.found);
+        EXPECT_EQ(found, kinds);
     }
 }
 
@@ -97,19 +82,16 @@ TEST(QtTray, buildsItsMenuAtEachOpening)
     Q_EMIT tray.menu().aboutToShow();
     EXPECT_TRUE(tray.menu().isEmpty());
 
-    items = {{QStringLiteral("R&D"), QStringLiteral("show")},
-             {},
-             {QStringLiteral("In 3 minutes"), {}, false},
-             {QStringLiteral("Now"), QStringLiteral("rotate")}};
+    items = {{u"R&D"_s, u"show"_s}, {}, {u"In 3 minutes"_s, {}, false}, {u"Now"_s, u"rotate"_s}};
     Q_EMIT tray.menu().aboutToShow();
     const QList<QAction *> actions = tray.menu().actions();
     ASSERT_EQ(actions.size(), 4);
-    EXPECT_EQ(actions[0]->text(), QStringLiteral("R&&D"));
+    EXPECT_EQ(actions[0]->text(), u"R&&D"_s);
     EXPECT_TRUE(actions[1]->isSeparator());
     EXPECT_FALSE(actions[2]->isEnabled());
     for (QAction *action : actions)
         action->trigger();
-    EXPECT_EQ(commands, (QStringList{QStringLiteral("show"), QStringLiteral("rotate")}));
+    EXPECT_EQ(commands, (QStringList{u"show"_s, u"rotate"_s}));
 
     Q_EMIT tray.menu().aboutToShow();
     EXPECT_EQ(tray.menu().actions(), actions); // the same lines are kept
@@ -118,12 +100,10 @@ TEST(QtTray, buildsItsMenuAtEachOpening)
     EXPECT_EQ(tray.menu().actions().size(), 3);
 
     items.removeLast();
-    expectWarning(QStringLiteral("systemTrayWindowChanged")); // Qt's, on the offscreen platform
+    expectWarning(u"systemTrayWindowChanged"_s); // Qt's, on the offscreen platform
     QDBusConnection(bus.connection()).registerService(Watcher);
     MORAVEL_WAIT(tray.menu().actions().size() == 2);
     tray.setImage(image);
 }
 
 } // namespace
-
-} // namespace moravel
