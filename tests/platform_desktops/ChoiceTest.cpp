@@ -1,20 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "support/Test.h"
+
 #include "platform/linux/desktops/DesktopChoice.h"
-
-#include <gtest/gtest.h>
-
-using namespace moravel;
 
 namespace {
 
 TEST(DesktopChoice, takesTheFirstKnownName)
 {
-    const struct
-    {
-        const char *names;
-        bool wayland, x11;
-        DesktopKind kind;
-    } table[] = {
+    const Table<const char *, bool, bool, DesktopKind> table{
         {"XFCE", false, true, DesktopKind::Xfce},
         {"xfce", false, true, DesktopKind::Xfce},
         {"ubuntu:GNOME", true, true, DesktopKind::Gnome},
@@ -31,11 +24,9 @@ TEST(DesktopChoice, takesTheFirstKnownName)
         {"weston", true, true, DesktopKind::Portal},
         {"", false, false, DesktopKind::Portal},
     };
-
-    for (const auto &row : table)
-        EXPECT_EQ(chooseDesktop({QString::fromLatin1(row.names), row.wayland, row.x11}), row.kind)
-            << row.names;
-    EXPECT_EQ(chooseDesktop({QStringLiteral("XFCE"), false, true, true}), DesktopKind::Portal);
+    for (const auto &[names, wayland, x11, kind] : table)
+        EXPECT_EQ(chooseDesktop({QString::fromLatin1(names), wayland, x11}), kind) << names;
+    EXPECT_EQ(chooseDesktop({u"XFCE"_s, false, true, true}), DesktopKind::Portal);
 }
 
 } // namespace

@@ -1,76 +1,44 @@
 // SPDX-License-Identifier: MIT
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/desktops/CopyPlan.h"
 #include "platform/linux/desktops/ScaledCopies.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QImage>
 #include <QPainter>
 
-namespace moravel {
 namespace {
-
-using testing::TempHome;
 
 TEST(CopyPlan, showsTheSameOnEveryScreen)
 {
+    using enum DesktopScaling;
     const QSize small(800, 600);
     const QSize wide(1600, 600);
-
-    struct Case
-    {
-        const char *name;
-        QSize picture;
-        QList<QSize> screens;
-        DesktopScaling scaling;
-        QSize whole; // empty: no copy
-        QRect cut;
-    };
-
-    const Case cases[] = {
-        {"fill covers", {6000, 4000}, {small}, DesktopScaling::Fill, {900, 600}, {0, 0, 900, 600}},
+    const Table<const char *, QSize, QList<QSize>, DesktopScaling, std::optional<CopyPlan>> cases{
+        {"fill covers", {6000, 4000}, {small}, Fill, CopyPlan{{900, 600}, {0, 0, 900, 600}}},
         {"fill covers the one that needs most",
          {6000, 4000},
          {small, wide},
-         DesktopScaling::Fill,
-         {1600, 1066},
-         {0, 0, 1600, 1066}},
-        {"fit stays inside",
-         {6000, 4000},
-         {small},
-         DesktopScaling::Fit,
-         {800, 533},
-         {0, 0, 800, 533}},
+         Fill,
+         CopyPlan{{1600, 1066}, {0, 0, 1600, 1066}}},
+        {"fit stays inside", {6000, 4000}, {small}, Fit, CopyPlan{{800, 533}, {0, 0, 800, 533}}},
         {"centred is cut, an even number off each side",
          {6001, 4000},
          {small},
-         DesktopScaling::Centred,
-         {6001, 4000},
-         {2600, 1700, 801, 600}},
+         Centred,
+         CopyPlan{{6001, 4000}, {2600, 1700, 801, 600}}},
         {"centred and long",
          {400, 9000},
          {small},
-         DesktopScaling::Centred,
-         {400, 9000},
-         {0, 4200, 400, 600}},
-        {"hardly larger", {880, 640}, {small}, DesktopScaling::Fill, {}, {}},
-        {"smaller", {80, 60}, {small}, DesktopScaling::Fill, {}, {}},
-        {"no picture", {}, {small}, DesktopScaling::Fill, {}, {}},
-        {"no screen", {6000, 4000}, {}, DesktopScaling::Fill, {}, {}},
-        {"a line", {100000, 1}, {small}, DesktopScaling::Fit, {800, 1}, {0, 0, 800, 1}},
+         Centred,
+         CopyPlan{{400, 9000}, {0, 4200, 400, 600}}},
+        {"hardly larger", {880, 640}, {small}, Fill, {}},
+        {"smaller", {80, 60}, {small}, Fill, {}},
+        {"no picture", {}, {small}, Fill, {}},
+        {"no screen", {6000, 4000}, {}, Fill, {}},
+        {"a line", {100000, 1}, {small}, Fit, CopyPlan{{800, 1}, {0, 0, 800, 1}}},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        const auto plan = planCopy(c.picture, c.screens, c.scaling);
-        ASSERT_EQ(plan.has_value(), !c.whole.isEmpty());
-        if (plan) {
-            EXPECT_EQ(plan->scaledTo, c.whole);
-            EXPECT_EQ(plan->cut, c.cut);
-        }
-    }
+    for (const auto &[name, picture, screens, scaling, plan] : cases)
+        EXPECT_EQ(planCopy(picture, screens, scaling), plan) << name;
 }
 
 TEST(CopyPlan, cutsInTheShapeOfTheScreen)
@@ -100,27 +68,19 @@ protected:
         QString result;
         copies.prepare(path, {screen}, DesktopScaling::Fill, [&](const QString &f) { result = f; });
         EXPECT_TRUE(result.isEmpty());
-        EXPECT_TRUE(testing::waitFor([&] { return !result.isEmpty(); }));
+        EXPECT_TRUE(waitFor([&] { return !result.isEmpty(); }));
         return result;
     }
 
     QStringList files() { return QDir(m_folder).entryList(QDir::Files, QDir::Name); }
 
     TempHome m_home;
-    QString m_folder = m_home.path(QStringLiteral("desktop"));
+    QString m_folder = m_home.path(u"desktop"_s);
 };
 
 TEST_F(Copies, keepSizeColourAndTransparency)
 {
-    struct Case
-    {
-        const char *name;
-        QImage::Format format;
-        QColor colour;
-        const char *extension;
-    };
-
-    const Case cases[] = {
+    const Table<const char *, QImage::Format, QColor, const char *> cases{
         {"plain.jpg", QImage::Format_RGB32, Qt::red, ".jpg"},
         {"two colours.png", QImage::Format_Mono, Qt::white, ".jpg"},
         {"palette.png", QImage::Format_Indexed8, Qt::red, ".jpg"},
@@ -128,44 +88,44 @@ TEST_F(Copies, keepSizeColourAndTransparency)
         {"a\"b'\n%41 ü.png", QImage::Format_ARGB32, QColor(0, 0, 255, 100), ".png"},
     };
     ScaledCopies copies(m_folder);
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        const QString original = picture(QString::fromUtf8(c.name), c.format, c.colour);
+    for (const auto &[name, format, colour, extension] : cases) {
+        SCOPED_TRACE(name);
+        const QString original = picture(QString::fromUtf8(name), format, colour);
         const QString copy = prepared(copies, original);
-        EXPECT_TRUE(copy.startsWith(m_folder + u'/') && copy.endsWith(QLatin1String(c.extension)));
+        EXPECT_TRUE(copy.startsWith(m_folder + u'/') && copy.endsWith(QLatin1String(extension)));
         const QImage image(copy);
         EXPECT_EQ(image.size(), QSize(120, 90));
         const QColor seen = image.pixelColor(60, 45);
-        EXPECT_NEAR(seen.red(), c.colour.red(), 3);
-        EXPECT_NEAR(seen.green(), c.colour.green(), 3);
-        EXPECT_NEAR(seen.blue(), c.colour.blue(), 3);
-        EXPECT_NEAR(seen.alpha(), c.colour.alpha(), 3);
+        EXPECT_NEAR(seen.red(), colour.red(), 3);
+        EXPECT_NEAR(seen.green(), colour.green(), 3);
+        EXPECT_NEAR(seen.blue(), colour.blue(), 3);
+        EXPECT_NEAR(seen.alpha(), colour.alpha(), 3);
         EXPECT_EQ(copies.original(copy), original);
     }
 }
 
 TEST_F(Copies, areTheLastTwoAndNothingElseIsTouched)
 {
-    m_home.write(QStringLiteral("desktop/holiday.jpg"), "mine");
+    m_home.write(u"desktop/holiday.jpg"_s, "mine");
     QStringList made;
     {
         ScaledCopies copies(m_folder);
         for (const char *name : {"1.png", "2.png", "3.png"})
             made += prepared(copies, picture(QLatin1String(name), QImage::Format_RGB32));
-        EXPECT_EQ(prepared(copies, m_home.path(QStringLiteral("2.png"))), made[1]); // again
-        made += prepared(copies, picture(QStringLiteral("4.png"), QImage::Format_RGB32));
+        EXPECT_EQ(prepared(copies, m_home.path(u"2.png"_s)), made[1]); // again
+        made += prepared(copies, picture(u"4.png"_s, QImage::Format_RGB32));
     }
     EXPECT_EQ(files().size(), 4); // two copies, their list, the stranger
     EXPECT_TRUE(QFileInfo::exists(made[1]) && QFileInfo::exists(made[3]));
-    EXPECT_EQ(TempHome::read(m_folder + QLatin1String("/holiday.jpg")), "mine");
+    EXPECT_EQ(TempHome::read(m_folder + "/holiday.jpg"_L1), "mine");
     const ScaledCopies later(m_folder);
-    EXPECT_EQ(later.original(made[1]), m_home.path(QStringLiteral("2.png")));
+    EXPECT_EQ(later.original(made[1]), m_home.path(u"2.png"_s));
     EXPECT_EQ(later.original(made[0]), made[0]);
 }
 
 TEST_F(Copies, areMadeAnewUnderAnotherNameWhenTheyAreLostOrTheirPictureChanges)
 {
-    const QString original = picture(QStringLiteral("1.png"), QImage::Format_RGB32);
+    const QString original = picture(u"1.png"_s, QImage::Format_RGB32);
     QString first;
     {
         ScaledCopies copies(m_folder);
@@ -187,21 +147,18 @@ TEST_F(Copies, areMadeAnewUnderAnotherNameWhenTheyAreLostOrTheirPictureChanges)
 
 TEST_F(Copies, handOverThePictureItselfWhenACopyHelpsNobody)
 {
-    m_home.write(QStringLiteral("desktop/copies.json"),
+    m_home.write(u"desktop/copies.json"_s,
                  R"([{"copy":"../../etc/passwd","of":"/x"},{"copy":7},3)");
     ScaledCopies copies(m_folder);
-    const QString drawing =
-        m_home.write(QStringLiteral("vector.svg"),
-                     R"(<svg xmlns="http://www.w3.org/2000/svg" width="9000" height="9000"/>)");
-    const QString broken = m_home.write(QStringLiteral("broken.png"), "\x89PNG\r\n\x1a\n");
-    const QString small = picture(QStringLiteral("small.png"), QImage::Format_RGB32);
+    const QString drawing = m_home.write(
+        u"vector.svg"_s, R"(<svg xmlns="http://www.w3.org/2000/svg" width="9000" height="9000"/>)");
+    const QString broken = m_home.write(u"broken.png"_s, "\x89PNG\r\n\x1a\n");
+    const QString small = picture(u"small.png"_s, QImage::Format_RGB32);
     EXPECT_EQ(prepared(copies, drawing), drawing);
     EXPECT_EQ(prepared(copies, broken), broken);
     EXPECT_EQ(prepared(copies, small, {1920, 1080}), small);
-    EXPECT_EQ(prepared(copies, m_home.path(QStringLiteral("none"))),
-              m_home.path(QStringLiteral("none")));
-    EXPECT_EQ(files(), QStringList(QStringLiteral("copies.json")));
+    EXPECT_EQ(prepared(copies, m_home.path(u"none"_s)), m_home.path(u"none"_s));
+    EXPECT_EQ(files(), QStringList(u"copies.json"_s));
 }
 
 } // namespace
-} // namespace moravel

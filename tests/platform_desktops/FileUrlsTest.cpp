@@ -1,39 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/desktops/FileUrls.h"
 
-#include <gtest/gtest.h>
-
-using namespace moravel;
+#include "support/Test.h"
 
 namespace {
 
 TEST(FileUrls, comeBackAsTheSamePath)
 {
-    const struct
-    {
-        QString path, url;
-    } table[] = {
-        {QStringLiteral("/a/b.jpg"), QStringLiteral("file://localhost/a/b.jpg")},
-        {QStringLiteral("/a b"), QStringLiteral("file://localhost/a%20b")},
-        {QStringLiteral("/it's"), QStringLiteral("file://localhost/it%27s")},
-        {QStringLiteral("/x%41y"), QStringLiteral("file://localhost/x%2541y")},
-        {QStringLiteral("/\u00fc"), QStringLiteral("file://localhost/%C3%BC")},
-        {QStringLiteral("/a\nb?#"), QStringLiteral("file://localhost/a%0Ab%3F%23")},
-        {QStringLiteral("/folder/"), QStringLiteral("file://localhost/folder/")},
+    const Table<QString, QString> table{
+        {u"/a/b.jpg"_s, u"file://localhost/a/b.jpg"_s},
+        {u"/a b"_s, u"file://localhost/a%20b"_s},
+        {u"/it's"_s, u"file://localhost/it%27s"_s},
+        {u"/x%41y"_s, u"file://localhost/x%2541y"_s},
+        {u"/\u00fc"_s, u"file://localhost/%C3%BC"_s},
+        {u"/a\nb?#"_s, u"file://localhost/a%0Ab%3F%23"_s},
+        {u"/folder/"_s, u"file://localhost/folder/"_s},
     };
-
-    for (const auto &row : table) {
-        EXPECT_EQ(fileUrl(row.path), row.url);
-        EXPECT_EQ(pathOfUrl(row.url), row.path);
+    for (const auto &[path, url] : table) {
+        EXPECT_EQ(fileUrl(path), url);
+        EXPECT_EQ(pathOfUrl(url), path);
     }
 }
 
 TEST(FileUrls, readWhatDesktopsWrite)
 {
-    const struct
-    {
-        const char *text, *path;
-    } table[] = {
+    const Table<const char *, const char *> table{
         {"file:///a%20b", "/a b"},
         {"file://myhost/a", "/a"},
         {"FILE:/a", "/a"},
@@ -47,12 +38,10 @@ TEST(FileUrls, readWhatDesktopsWrite)
         {"relative", ""},
         {"", ""},
     };
-
-    for (const auto &row : table)
-        EXPECT_EQ(pathOfUrl(QString::fromLatin1(row.text)), QString::fromLatin1(row.path))
-            << row.text;
-    EXPECT_EQ(fileUrl(QStringLiteral("relative")), QString());
-    EXPECT_EQ(folderUrlOf(QStringLiteral("/a b/c.jpg")), QStringLiteral("file://localhost/a%20b/"));
+    for (const auto &[text, path] : table)
+        EXPECT_EQ(pathOfUrl(QString::fromLatin1(text)), QString::fromLatin1(path)) << text;
+    EXPECT_EQ(fileUrl(u"relative"_s), QString());
+    EXPECT_EQ(folderUrlOf(u"/a b/c.jpg"_s), u"file://localhost/a%20b/"_s);
     EXPECT_EQ(folderUrlOf(QString()), QString());
 }
 

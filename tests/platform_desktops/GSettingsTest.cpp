@@ -1,75 +1,41 @@
 // SPDX-License-Identifier: MIT
 // Runs on schemas of its own and GLib's memory backend; the settings of the user are out of reach.
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "platform_desktops/SetPicture.h"
+#include "support/Test.h"
 
 #include "platform/linux/desktops/FileUrls.h"
 #include "platform/linux/desktops/GSettingsPictures.h"
 #include "platform/linux/desktops/SettingsPictures.h"
 
-#include <QFileInfo>
-#include <QImage>
 #include <QProcess>
 
-namespace moravel {
 namespace {
-
-using testing::TempHome;
-using Text = std::optional<QString>;
-
-Text text(const char *value)
-{
-    return value ? Text(QString::fromUtf8(value)) : std::nullopt;
-}
 
 TEST(GSettingsReading, tellsWhatIsShown)
 {
-    struct Case
-    {
-        const char *name;
-        const char *picture;
-        const char *dark;
-        const char *options;
-        const char *scheme;
-        std::optional<bool> draws;
-        std::optional<bool> slideshow;
-        const char *source;
-        const char *shown;
+    const QString zoom = u"zoom"_s;
+    const QString light = u"file:///l.jpg"_s;
+    const QString dark = u"file:///d.jpg"_s;
+    const Table<const char *, GSettingsReading, const char *> cases{
+        {"uri", {u"file:///a%20b/%2541.jpg"_s, {}, zoom, {}, {}, {}, {}}, "/a b/%41.jpg"},
+        {"uri with a host", {u"file://localhost/a.jpg"_s, {}, zoom, {}, {}, {}, {}}, "/a.jpg"},
+        {"plain path", {u"/a%20b.jpg"_s, {}, zoom, {}, {}, {}, {}}, "/a%20b.jpg"},
+        {"light", {light, dark, zoom, u"default"_s, {}, {}, {}}, "/l.jpg"},
+        {"dark", {light, dark, zoom, u"prefer-dark"_s, {}, {}, {}}, "/d.jpg"},
+        {"dark without a key", {light, {}, zoom, u"prefer-dark"_s, {}, {}, {}}, "/l.jpg"},
+        {"nothing shown", {light, {}, u"none"_s, {}, {}, {}, {}}, ""},
+        {"not drawn", {u"/l.jpg"_s, {}, zoom, {}, false, {}, {}}, ""},
+        {"drawn", {u"/l.jpg"_s, {}, zoom, {}, true, {}, {}}, "/l.jpg"},
+        {"timed", {u"file:///s/a%20b/t.XML"_s, {}, zoom, {}, {}, {}, {}}, "/s/a b/"},
+        {"slideshow", {light, {}, zoom, {}, {}, true, u"directory:///my pics"_s}, "/my pics/"},
+        {"timed slideshow", {light, {}, zoom, {}, {}, true, u"xml:///b/c.xml"_s}, "/b/"},
+        {"slideshow off", {light, {}, zoom, {}, {}, false, u"directory:///my"_s}, "/l.jpg"},
+        {"slideshow of nothing", {light, {}, zoom, {}, {}, true, u""_s}, "/l.jpg"},
+        {"other scheme", {u"https://a/b.jpg"_s, {}, zoom, {}, {}, {}, {}}, ""},
+        {"no keys", {}, ""},
     };
-
-    const Case cases[] = {
-        {"uri", "file:///a%20b/%2541.jpg", {}, "zoom", {}, {}, {}, {}, "/a b/%41.jpg"},
-        {"uri with a host", "file://localhost/a.jpg", {}, "zoom", {}, {}, {}, {}, "/a.jpg"},
-        {"plain path", "/a%20b.jpg", {}, "zoom", {}, {}, {}, {}, "/a%20b.jpg"},
-        {"light", "file:///l.jpg", "file:///d.jpg", "zoom", "default", {}, {}, {}, "/l.jpg"},
-        {"dark", "file:///l.jpg", "file:///d.jpg", "zoom", "prefer-dark", {}, {}, {}, "/d.jpg"},
-        {"dark without a key", "file:///l.jpg", {}, "zoom", "prefer-dark", {}, {}, {}, "/l.jpg"},
-        {"nothing shown", "file:///l.jpg", {}, "none", {}, {}, {}, {}, ""},
-        {"not drawn", "/l.jpg", {}, "zoom", {}, false, {}, {}, ""},
-        {"drawn", "/l.jpg", {}, "zoom", {}, true, {}, {}, "/l.jpg"},
-        {"timed", "file:///s/a%20b/t.XML", {}, "zoom", {}, {}, {}, {}, "/s/a b/"},
-        {"slideshow",
-         "file:///l.jpg",
-         {},
-         "zoom",
-         {},
-         {},
-         true,
-         "directory:///my pics",
-         "/my pics/"},
-        {"timed slideshow", "file:///l.jpg", {}, "zoom", {}, {}, true, "xml:///b/c.xml", "/b/"},
-        {"slideshow off", "file:///l.jpg", {}, "zoom", {}, {}, false, "directory:///my", "/l.jpg"},
-        {"slideshow of nothing", "file:///l.jpg", {}, "zoom", {}, {}, true, "", "/l.jpg"},
-        {"other scheme", "https://a/b.jpg", {}, "zoom", {}, {}, {}, {}, ""},
-        {"no keys", {}, {}, {}, {}, {}, {}, {}, ""},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.name);
-        const GSettingsReading reading{text(c.picture), text(c.dark), text(c.options),
-                                       text(c.scheme),  c.draws,      c.slideshow,
-                                       text(c.source)};
-        EXPECT_EQ(shownPath(reading), QString::fromUtf8(c.shown));
-    }
+    for (const auto &[name, reading, shown] : cases)
+        EXPECT_EQ(shownPath(reading), QLatin1String(shown)) << name;
 }
 
 constexpr const char *Schemas = R"(<schemalist>
@@ -94,7 +60,7 @@ protected:
     static void SetUpTestSuite()
     {
         s_schemas = std::make_unique<TempHome>();
-        s_schemas->write(QStringLiteral("t.gschema.xml"), Schemas);
+        s_schemas->write(u"t.gschema.xml"_s, Schemas);
         ASSERT_EQ(QProcess::execute(QStringLiteral(GLIB_COMPILE_SCHEMAS), {s_schemas->path()}), 0);
         qputenv("GSETTINGS_SCHEMA_DIR", s_schemas->path().toUtf8());
         qputenv("GSETTINGS_BACKEND", "memory");
@@ -115,66 +81,45 @@ protected:
         return m_home.path(name);
     }
 
-    /// Sets and returns what failed; "-" when nothing did.
-    QString set(DesktopPictures &desktop, const QString &path, DesktopScaling scaling)
-    {
-        QString result;
-        desktop.setDesktopImageUrl(fileUrl(path), {}, scaling, [&](const auto &outcome) {
-            result = outcome ? QStringLiteral("-") : outcome.error().description;
-        });
-        EXPECT_TRUE(result.isEmpty()) << "answered from within";
-        EXPECT_TRUE(testing::waitFor([&] { return !result.isEmpty(); }));
-        return result;
-    }
-
     TempHome m_home;
     static inline std::unique_ptr<TempHome> s_schemas;
 };
 
 TEST_F(GSettings, setEveryKeyThatTheDesktopReads)
 {
-    const QString path = picture(QStringLiteral("a \"b'\n%41ü.png"), {20, 10});
+    const QString path = picture(u"a \"b'\n%41ü.png"_s, {20, 10});
 
-    struct Case
-    {
-        const char *word;
-        const char *schema;
-        const char *key;
-        bool plain;
-    };
-
-    const Case cases[] = {
+    const Table<const char *, const char *, const char *, bool> cases{
         {"ubuntu:GNOME", "org.gnome.desktop.background", "picture-uri", false},
         {"Pantheon", "org.gnome.desktop.background", "picture-uri-dark", false},
         {"MATE", "org.mate.background", "picture-filename", true},
         {"X-Cinnamon", "org.cinnamon.desktop.background", "picture-uri", false},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.word);
-        const auto desktop = pictures(c.word);
+    for (const auto &[word, schema, key, plain] : cases) {
+        SCOPED_TRACE(word);
+        const auto desktop = pictures(word);
         ASSERT_TRUE(desktop);
-        GSettingsKeys keys(QString::fromLatin1(c.schema));
-        keys.setText(c.key, {});
-        EXPECT_EQ(set(*desktop, path, DesktopScaling::Centred), u"-");
+        GSettingsKeys keys(QString::fromLatin1(schema));
+        keys.setText(key, {});
+        EXPECT_EQ(setPicture(*desktop, path, {}, DesktopScaling::Centred), QString());
         EXPECT_EQ(desktop->desktopImageUrl({}), fileUrl(path));
-        EXPECT_EQ(keys.text(c.key), pictureValue(path, c.plain));
-        EXPECT_EQ(keys.text("picture-options"), QStringLiteral("centered"));
-        EXPECT_EQ(set(*desktop, m_home.path(QStringLiteral("none.png")), DesktopScaling::Fit),
-                  u"The picture is not a file.");
-        EXPECT_EQ(keys.text("picture-options"), QStringLiteral("centered"));
+        EXPECT_EQ(keys.text(key), pictureValue(path, plain));
+        EXPECT_EQ(keys.text("picture-options"), u"centered"_s);
+        EXPECT_EQ(setPicture(*desktop, m_home.path(u"none.png"_s)), u"The picture is not a file.");
+        EXPECT_EQ(keys.text("picture-options"), u"centered"_s);
     }
-    EXPECT_EQ(GSettingsKeys(QStringLiteral("org.mate.background")).flag("draw-background"), true);
-    const GSettingsKeys slides(QStringLiteral("org.cinnamon.desktop.background.slideshow"));
+    EXPECT_EQ(GSettingsKeys(u"org.mate.background"_s).flag("draw-background"), true);
+    const GSettingsKeys slides(u"org.cinnamon.desktop.background.slideshow"_s);
     EXPECT_EQ(slides.flag("slideshow-enabled"), false);
 }
 
 TEST_F(GSettings, givesBudgieALinkToAnOddName)
 {
-    const QString path = picture(QStringLiteral("50%.png"), {20, 10});
+    const QString path = picture(u"50%.png"_s, {20, 10});
     const auto desktop = pictures("Budgie:GNOME");
-    EXPECT_EQ(set(*desktop, path, DesktopScaling::Fit), u"-");
+    EXPECT_EQ(setPicture(*desktop, path), QString());
     EXPECT_EQ(desktop->desktopImageUrl({}), fileUrl(path));
-    const GSettingsKeys keys(QStringLiteral("org.gnome.desktop.background"));
+    const GSettingsKeys keys(u"org.gnome.desktop.background"_s);
     const QString handed = pathOfUrl(keys.text("picture-uri").value_or(QString()));
     EXPECT_FALSE(handed.contains(u'%'));
     EXPECT_EQ(QFile::symLinkTarget(handed), path);
@@ -183,38 +128,38 @@ TEST_F(GSettings, givesBudgieALinkToAnOddName)
 TEST_F(GSettings, followChangesFromOutside)
 {
     const auto desktop = pictures("GNOME");
-    GSettingsKeys keys(QStringLiteral("org.gnome.desktop.background"));
-    GSettingsKeys interface(QStringLiteral("org.gnome.desktop.interface"));
+    GSettingsKeys keys(u"org.gnome.desktop.background"_s);
+    GSettingsKeys interface(u"org.gnome.desktop.interface"_s);
     const auto becomes = [&](const char *url) {
-        return testing::waitFor([&] { return desktop->desktopImageUrl({}) == QLatin1String(url); });
+        return waitFor([&] { return desktop->desktopImageUrl({}) == QLatin1String(url); });
     };
-    keys.setText("picture-uri", QStringLiteral("file:///l%20x.jpg"));
-    keys.setText("picture-uri-dark", QStringLiteral("/dark.jpg"));
+    keys.setText("picture-uri", u"file:///l%20x.jpg"_s);
+    keys.setText("picture-uri-dark", u"/dark.jpg"_s);
     EXPECT_TRUE(becomes("file://localhost/l%20x.jpg"));
-    interface.setText("color-scheme", QStringLiteral("prefer-dark"));
+    interface.setText("color-scheme", u"prefer-dark"_s);
     EXPECT_TRUE(becomes("file://localhost/dark.jpg"));
-    keys.setText("picture-options", QStringLiteral("none"));
+    keys.setText("picture-options", u"none"_s);
     EXPECT_TRUE(becomes(""));
-    keys.setText("picture-options", QStringLiteral("zoom"));
-    interface.setText("color-scheme", QStringLiteral("default"));
+    keys.setText("picture-options", u"zoom"_s);
+    interface.setText("color-scheme", u"default"_s);
     EXPECT_TRUE(becomes("file://localhost/l%20x.jpg"));
 }
 
 TEST_F(GSettings, missingSchemasAndKeysAreNoCrash)
 {
-    GSettingsKeys nothing(QStringLiteral("org.moravel.nothing"));
+    GSettingsKeys nothing(u"org.moravel.nothing"_s);
     EXPECT_FALSE(nothing.isOpen() || nothing.text("a") || nothing.setText("a", {}));
-    GSettingsKeys keys(QStringLiteral("org.mate.background"));
+    GSettingsKeys keys(u"org.mate.background"_s);
     EXPECT_FALSE(keys.text("picture-uri") || keys.flag("picture-filename"));
     EXPECT_FALSE(keys.setText("draw-background", {}) || keys.setFlag("picture-options", true));
-    EXPECT_FALSE(keys.setText("picture-options", QStringLiteral("sideways")));
+    EXPECT_FALSE(keys.setText("picture-options", u"sideways"_s));
     EXPECT_EQ(pictures("ENLIGHTENMENT:Nothing"), nullptr);
     const GSettingsDesktop row{"Lost",        "lost",  "org.moravel.nothing",
                                "picture-uri", nullptr, nullptr,
                                nullptr,       false,   false};
     GSettingsPictures lost(row, m_home.path());
     EXPECT_FALSE(lost.isUsable());
-    EXPECT_EQ(set(lost, picture(QStringLiteral("a.png"), {2, 2}), DesktopScaling::Fill),
+    EXPECT_EQ(setPicture(lost, picture(u"a.png"_s, {2, 2})),
               u"The desktop's setting is locked or missing.");
 }
 
@@ -224,25 +169,21 @@ class OnOneScreen : public GSettingsPictures
 public:
     using GSettingsPictures::GSettingsPictures;
 
-    QList<DesktopScreen> screens() const override
-    {
-        return {{QStringLiteral("ONE"), {800, 600}, true}};
-    }
+    QList<DesktopScreen> screens() const override { return {{u"ONE"_s, {800, 600}, true}}; }
 };
 
 TEST_F(GSettings, largePicturesAreHandedOverAsCopiesAndReadAsThemselves)
 {
-    const QString path = picture(QStringLiteral("large.png"), {4000, 3000});
-    GSettingsKeys keys(QStringLiteral("org.gnome.desktop.background"));
+    const QString path = picture(u"large.png"_s, {4000, 3000});
+    GSettingsKeys keys(u"org.gnome.desktop.background"_s);
     const auto handed = [&] { return pathOfUrl(keys.text("picture-uri").value_or(QString())); };
     {
-        OnOneScreen desktop(*gsettingsDesktop(QStringLiteral("gnome")),
-                            m_home.path(QStringLiteral("desktop")));
-        EXPECT_EQ(set(desktop, path, DesktopScaling::Fill), u"-");
+        OnOneScreen desktop(*gsettingsDesktop(u"gnome"_s), m_home.path(u"desktop"_s));
+        EXPECT_EQ(setPicture(desktop, path), QString());
         EXPECT_EQ(desktop.desktopImageUrl({}), fileUrl(path));
     }
     const QString copy = handed();
-    EXPECT_TRUE(copy.startsWith(m_home.path(QStringLiteral("desktop/"))));
+    EXPECT_TRUE(copy.startsWith(m_home.path(u"desktop/"_s)));
     EXPECT_EQ(keys.text("picture-uri-dark"), keys.text("picture-uri"));
     ASSERT_TRUE(QFile::remove(copy));
     const auto desktop = pictures("GNOME");
@@ -253,4 +194,3 @@ TEST_F(GSettings, largePicturesAreHandedOverAsCopiesAndReadAsThemselves)
 }
 
 } // namespace
-} // namespace moravel

@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "platform_desktops/SetPicture.h"
+#include "support/Test.h"
 
 #include "platform/linux/desktops/HyprlandPictures.h"
 #include "platform/linux/desktops/HyprpaperCommands.h"
 
-#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 
-namespace moravel {
 namespace {
-
-using namespace moravel::testing;
 
 /// Stands in for hyprpaper: notes what it is told.
 class FakeHyprpaper
@@ -59,69 +55,57 @@ protected:
     QString set(HyprlandPictures &pictures, const QString &path,
                 DesktopScaling scaling = DesktopScaling::Fill)
     {
-        std::optional<QString> answer;
-        pictures.setDesktopImageUrl(QStringLiteral("file://localhost") + path, screen, scaling,
-                                    [&answer](const auto &result) {
-                                        answer = result ? QString() : result.error().description;
-                                    });
-        EXPECT_FALSE(answer);
-        EXPECT_TRUE(waitFor([&] { return answer.has_value(); }));
-        return answer.value_or(QStringLiteral("no answer"));
+        return setPicture(pictures, path, screen, scaling);
     }
 
     TempHome home;
-    const QString screen = QStringLiteral("eDP-1");
-    const QString socket = home.path(QStringLiteral("s"));
-    const QString a = home.write(QStringLiteral("a.png"), "A");
-    const QString b = home.write(QStringLiteral("b, c.png"), "B");
+    const QString screen = u"eDP-1"_s;
+    const QString socket = home.path(u"s"_s);
+    const QString a = home.write(u"a.png"_s, "A");
+    const QString b = home.write(u"b, c.png"_s, "B");
 };
 
 TEST_F(HyprlandTest, speaksToHyprpaper)
 {
     FakeHyprpaper hyprpaper(socket);
     HyprlandPictures pictures(socket);
-    MORAVEL_WAIT(pictures.desktopImageUrl(screen)
-                 == QStringLiteral("file://localhost/old%2C%20picture.png"));
+    MORAVEL_WAIT(pictures.desktopImageUrl(screen) == u"file://localhost/old%2C%20picture.png"_s);
     EXPECT_EQ(set(pictures, a), QString());
     EXPECT_EQ(hyprpaper.told,
-              (QStringList{QStringLiteral("preload ") + a, QStringLiteral("wallpaper eDP-1,") + a,
-                           QStringLiteral("unload unused")}));
-    EXPECT_EQ(pictures.desktopImageUrl(screen), QStringLiteral("file://localhost") + a);
+              (QStringList{u"preload "_s + a, u"wallpaper eDP-1,"_s + a, u"unload unused"_s}));
+    EXPECT_EQ(pictures.desktopImageUrl(screen), u"file://localhost"_s + a);
 
     hyprpaper.staysOpen = true;
     hyprpaper.told.clear();
-    home.write(QStringLiteral("a.png"), "changed");
+    home.write(u"a.png"_s, "changed");
     EXPECT_EQ(set(pictures, a, DesktopScaling::Fit), QString());
-    EXPECT_EQ(hyprpaper.told.value(0), QStringLiteral("unload ") + a);
-    EXPECT_EQ(hyprpaper.told.value(2), QStringLiteral("wallpaper eDP-1,contain:") + a);
+    EXPECT_EQ(hyprpaper.told.value(0), u"unload "_s + a);
+    EXPECT_EQ(hyprpaper.told.value(2), u"wallpaper eDP-1,contain:"_s + a);
 
     hyprpaper.refusal = "wallpaper failed (no such monitor)";
-    EXPECT_EQ(set(pictures, b), QStringLiteral("hyprpaper: wallpaper failed (no such monitor)"));
-    EXPECT_EQ(pictures.desktopImageUrl(screen), QStringLiteral("file://localhost") + a);
+    EXPECT_EQ(set(pictures, b), u"hyprpaper: wallpaper failed (no such monitor)"_s);
+    EXPECT_EQ(pictures.desktopImageUrl(screen), u"file://localhost"_s + a);
     hyprpaper.refusal.clear();
-    for (const char *name : {"two\nlines.png", "blank ", "missing.png"}) {
-        if (qstrcmp(name, "missing.png") != 0)
-            home.write(QLatin1String(name), "C");
-        EXPECT_NE(set(pictures, home.path(QLatin1String(name))), QString());
-    }
+    for (const QString &name : {u"two\nlines.png"_s, u"blank "_s})
+        EXPECT_NE(set(pictures, home.write(name, "C")), QString());
+    EXPECT_NE(set(pictures, home.path(u"missing.png"_s)), QString());
 }
 
 // Newer ones speak another protocol on the socket; their own program is asked then.
 TEST_F(HyprlandTest, asksHyprctlWhereTheSocketIsNotUnderstood)
 {
-    const QString log = home.path(QStringLiteral("log"));
-    const QString program =
-        home.write(QStringLiteral("bin/hyprctl"),
-                   "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + log.toUtf8() + "'\necho ok\n");
+    const QString log = home.path(u"log"_s);
+    const QString program = home.write(
+        u"bin/hyprctl"_s, "#!/bin/sh\nprintf '%s|' \"$@\" >>'" + log.toUtf8() + "'\necho ok\n");
     QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
     const QByteArray before = qgetenv("PATH");
-    qputenv("PATH", home.path(QStringLiteral("bin")).toUtf8());
+    qputenv("PATH", home.path(u"bin"_s).toUtf8());
     FakeHyprpaper hyprpaper(socket);
     hyprpaper.refusal = QByteArray("\0\x01", 2);
     HyprlandPictures pictures(socket);
     EXPECT_EQ(set(pictures, a, DesktopScaling::Fit), QString());
     EXPECT_EQ(QString::fromUtf8(TempHome::read(log)),
-              QStringLiteral("hyprpaper|wallpaper|eDP-1, %1, contain|").arg(a));
+              u"hyprpaper|wallpaper|eDP-1, %1, contain|"_s.arg(a));
     EXPECT_NE(set(pictures, b), QString()); // a comma ends the name there
     QFile::remove(program);
     EXPECT_NE(set(pictures, a), QString());
@@ -129,4 +113,3 @@ TEST_F(HyprlandTest, asksHyprctlWhereTheSocketIsNotUnderstood)
 }
 
 } // namespace
-} // namespace moravel

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What is seen of a picture on a screen, and what comes out of the decoder for it.
+#include "support/Test.h"
+
 #include "platform/linux/desktops/DesktopDecoder.h"
 #include "platform/linux/desktops/DesktopRecord.h"
 #include "platform/linux/desktops/PicturePlacement.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-using namespace moravel;
 
 namespace {
 
@@ -20,12 +18,7 @@ constexpr auto Fill = DesktopScaling::Fill;
 
 TEST(PicturePlacement, keepsBothPartsBounded)
 {
-    const struct
-    {
-        QSize picture, screen;
-        DesktopScaling scaling;
-        QSize part, shown;
-    } table[] = {
+    const Table<QSize, QSize, DesktopScaling, QSize, QSize> table{
         {{400, 300}, {800, 600}, Centred, {400, 300}, {400, 300}},
         {{1600, 300}, {800, 600}, Centred, {800, 300}, {800, 300}},
         {{3840, 2160}, {800, 600}, Fit, {3840, 2160}, {800, 450}},
@@ -36,15 +29,14 @@ TEST(PicturePlacement, keepsBothPartsBounded)
         {{20000, 1}, {800, 600}, Fill, {1, 1}, {800, 600}},
         {{0, 0}, {800, 600}, Fill, {0, 0}, {0, 0}},
     };
-
-    for (const auto &row : table) {
-        const PicturePlacement is = placePicture(row.picture, row.screen, row.scaling);
-        EXPECT_EQ(is.part, row.part) << row.picture.width() << 'x' << row.picture.height();
-        EXPECT_EQ(is.shown, row.shown) << row.picture.width() << 'x' << row.picture.height();
+    for (const auto &[picture, screen, scaling, part, shown] : table) {
+        const PicturePlacement is = placePicture(picture, screen, scaling);
+        EXPECT_EQ(is.part, part) << picture.width() << 'x' << picture.height();
+        EXPECT_EQ(is.shown, shown) << picture.width() << 'x' << picture.height();
     }
 }
 
-class DesktopDecoder : public testing::Test
+class DesktopDecoder : public ::testing::Test
 {
 protected:
     QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
@@ -114,8 +106,8 @@ TEST_F(DesktopDecoder, refusesWhatIsNoPictureFile)
 TEST(DesktopRecord, survivesTheFileAndDamage)
 {
     DesktopRecord record{77, {}};
-    record.screens[QStringLiteral("DP-1")] = {QStringLiteral("/a \"b\"\n\u00fc%41"), Fit, 123, 456};
-    record.screens[QStringLiteral("DP-2")] = {QStringLiteral("/b"), Centred, 0, 0};
+    record.screens[u"DP-1"_s] = {u"/a \"b\"\n\u00fc%41"_s, Fit, 123, 456};
+    record.screens[u"DP-2"_s] = {u"/b"_s, Centred, 0, 0};
     const QByteArray bytes = recordBytes(record);
     EXPECT_EQ(recordFromBytes(bytes), record);
     EXPECT_EQ(recordFromBytes(bytes.left(bytes.size() / 2)), DesktopRecord());

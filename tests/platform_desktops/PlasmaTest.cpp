@@ -1,34 +1,30 @@
 // SPDX-License-Identifier: MIT
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "platform_desktops/SetPicture.h"
+#include "platform_session/PrivateBus.h"
+#include "support/Test.h"
 
 #include "platform/linux/desktops/FileUrls.h"
 #include "platform/linux/desktops/PlasmaPictures.h"
 
-#include <QDBusConnection>
 #include <QDBusContext>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QScreen>
 
-namespace moravel {
 namespace {
-
-using testing::TempHome;
 
 TEST(PlasmaScript, holdsNoTextUnquoted)
 {
-    const QString texts[] = {QStringLiteral("plain"),
-                             QStringLiteral("\"); evil(\""),
-                             QStringLiteral("back\\slash \\\" \\u0022"),
-                             QStringLiteral("new\nline\r\t\x01"),
-                             QStringLiteral("</script> ' ` ${x} %1 %2 %4"),
-                             QStringLiteral("line\u2028and\u2029paragraph"),
-                             QStringLiteral("\u00fc \u4e2d \U0001F600")};
+    const QString texts[] = {u"plain"_s,
+                             u"\"); evil(\""_s,
+                             u"back\\slash \\\" \\u0022"_s,
+                             u"new\nline\r\t\x01"_s,
+                             u"</script> ' ` ${x} %1 %2 %4"_s,
+                             u"line\u2028and\u2029paragraph"_s,
+                             u"\u00fc \u4e2d \U0001F600"_s};
     for (const QString &text : texts) {
         SCOPED_TRACE(qPrintable(text));
         const QString literal = scriptString(text);
@@ -37,45 +33,34 @@ TEST(PlasmaScript, holdsNoTextUnquoted)
         for (const QChar c : literal)
             EXPECT_TRUE(c >= u' ' && c != QChar(0x2028) && c != QChar(0x2029));
         const QString script = plasmaSetScript({800, -20}, text, DesktopScaling::Fit);
-        EXPECT_TRUE(script.contains(QLatin1String("writeConfig(\"Image\", ") + literal + u')'));
-        EXPECT_TRUE(script.contains(QLatin1String("area.x !== 800 || area.y !== -20")));
-        EXPECT_TRUE(script.contains(QLatin1String("\"FillMode\", 1")));
+        EXPECT_TRUE(script.contains("writeConfig(\"Image\", "_L1 + literal + u')'));
+        EXPECT_TRUE(script.contains("area.x !== 800 || area.y !== -20"_L1));
+        EXPECT_TRUE(script.contains("\"FillMode\", 1"_L1));
     }
-    EXPECT_TRUE(plasmaSetScript({}, {}, DesktopScaling::Centred)
-                    .contains(QLatin1String("\"FillMode\", 6")));
-    EXPECT_TRUE(
-        plasmaSetScript({}, {}, DesktopScaling::Fill).contains(QLatin1String("\"FillMode\", 2")));
+    EXPECT_TRUE(plasmaSetScript({}, {}, DesktopScaling::Centred).contains("\"FillMode\", 6"_L1));
+    EXPECT_TRUE(plasmaSetScript({}, {}, DesktopScaling::Fill).contains("\"FillMode\", 2"_L1));
 }
 
 TEST(PlasmaScript, spellsOneFileInTwoWays)
 {
-    const QString path = QStringLiteral("/a b/c#\"%41\n\u00fc.png");
+    const QString path = u"/a b/c#\"%41\n\u00fc.png"_s;
     const QString one = plasmaImage(path, false);
     const QString other = plasmaImage(path, true);
     EXPECT_EQ(one, u"file:///a%20b/c%23%22%2541%0A%C3%BC.png");
     EXPECT_NE(one, other);
     for (const QString &image : {one, other})
-        EXPECT_EQ(plasmaShownPath({{}, QStringLiteral("org.kde.image"), image, {}}), path);
+        EXPECT_EQ(plasmaShownPath({{}, u"org.kde.image"_s, image, {}}), path);
 }
 
 TEST(PlasmaScript, answersAreUnderstoodOrRefused)
 {
     TempHome home;
     for (const char *name : {"640x480.png", "3840x2160.jpg", "1920x1080.jpg"})
-        home.write(QStringLiteral("pack/contents/images/") + QLatin1String(name), "x");
-    const QByteArray package = home.path(QStringLiteral("pack/")).toUtf8();
-    const QByteArray best =
-        home.path(QStringLiteral("pack/contents/images/3840x2160.jpg")).toUtf8();
+        home.write(u"pack/contents/images/"_s + QLatin1String(name), "x");
+    const QByteArray package = home.path(u"pack/"_s).toUtf8();
+    const QByteArray best = home.path(u"pack/contents/images/3840x2160.jpg"_s).toUtf8();
 
-    struct Case
-    {
-        const char *plugin;
-        QByteArray image;
-        const char *folders;
-        QByteArray shown;
-    };
-
-    const Case cases[] = {
+    const Table<const char *, QByteArray, const char *, QByteArray> cases{
         {"org.kde.image", "file:///a%20b.png", "/s", "/a b.png"},
         {"org.kde.image", "/a%20b.png", "", "/a%20b.png"},
         {"org.kde.image", "", "/s", ""},
@@ -86,17 +71,15 @@ TEST(PlasmaScript, answersAreUnderstoodOrRefused)
         {"org.kde.slideshow", "", "", ""},
         {"org.kde.potd", "file:///a.png", "/s", ""},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(std::string(c.plugin) + " " + c.image.toStdString() + " " + c.folders);
-        EXPECT_EQ(plasmaShownPath({{},
-                                   QLatin1String(c.plugin),
-                                   QString::fromUtf8(c.image),
-                                   QLatin1String(c.folders)}),
-                  QString::fromUtf8(c.shown));
-    }
-    EXPECT_FALSE(parsePlasmaDesktops(QStringLiteral("Widgets are locked")));
-    EXPECT_FALSE(parsePlasmaDesktops(QStringLiteral("{}")));
-    EXPECT_EQ(parsePlasmaDesktops(QStringLiteral("[7,{\"x\":\"a\"}]\n"))->size(), 2);
+    for (const auto &[plugin, image, folders, shown] : cases)
+        EXPECT_EQ(
+            plasmaShownPath(
+                {{}, QLatin1String(plugin), QString::fromUtf8(image), QLatin1String(folders)}),
+            QString::fromUtf8(shown))
+            << std::string(plugin) + " " + image.toStdString() + " " + folders;
+    EXPECT_FALSE(parsePlasmaDesktops(u"Widgets are locked"_s));
+    EXPECT_FALSE(parsePlasmaDesktops(u"{}"_s));
+    EXPECT_EQ(parsePlasmaDesktops(u"[7,{\"x\":\"a\"}]\n"_s)->size(), 2);
 }
 
 /// Stands in for the shell: knows one screen and the two scripts.
@@ -106,7 +89,7 @@ class FakeShell : public QObject, protected QDBusContext
     Q_CLASSINFO("D-Bus Interface", "org.kde.PlasmaShell")
 
 public:
-    QString plugin = QStringLiteral("org.kde.slideshow");
+    QString plugin = u"org.kde.slideshow"_s;
     QString image;
     QStringList images; ///< All that was set.
     QString error; ///< Not empty: what every script is answered with.
@@ -116,28 +99,28 @@ public Q_SLOTS:
 
     QString evaluateScript(const QString &script)
     {
-        static const QRegularExpression set(QStringLiteral("writeConfig\\(\"Image\", (\".*\")\\)"));
+        static const QRegularExpression set(u"writeConfig\\(\"Image\", (\".*\")\\)"_s);
         if (!error.isEmpty()) {
             sendErrorReply(QDBusError::Failed, error);
             return {};
         }
         const auto match = set.match(script);
         if (!match.hasMatch()) {
-            const QJsonObject desktop{{QStringLiteral("x"), 0},
-                                      {QStringLiteral("y"), 0},
-                                      {QStringLiteral("plugin"), plugin},
-                                      {QStringLiteral("image"), image},
-                                      {QStringLiteral("folders"), QStringLiteral("/slides,/more")}};
+            const QJsonObject desktop{{u"x"_s, 0},
+                                      {u"y"_s, 0},
+                                      {u"plugin"_s, plugin},
+                                      {u"image"_s, image},
+                                      {u"folders"_s, u"/slides,/more"_s}};
             return QString::fromUtf8(QJsonDocument(QJsonArray{desktop}).toJson());
         }
         const QString text =
             QJsonDocument::fromJson('[' + match.captured(1).toUtf8() + ']')[0].toString();
         images += text;
         if (!isDeaf) {
-            plugin = QStringLiteral("org.kde.image");
+            plugin = u"org.kde.image"_s;
             image = text;
         }
-        return QStringLiteral("[]");
+        return u"[]"_s;
     }
 };
 
@@ -146,96 +129,68 @@ class Plasma : public ::testing::Test
 protected:
     void SetUp() override
     {
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                        QStringLiteral("--print-address")});
-        MORAVEL_WAIT(m_daemon.canReadLine());
-        m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
         qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
         start();
-        m_pictures = std::make_unique<PlasmaPictures>(
-            QDBusConnection::connectToBus(m_address, QStringLiteral("client")));
+        m_pictures = std::make_unique<PlasmaPictures>(m_bus.connection());
         m_screen = QGuiApplication::primaryScreen()->name();
         MORAVEL_WAIT(url() == u"file://localhost/slides/");
     }
 
-    void TearDown() override
-    {
-        m_pictures.reset();
-        stop();
-        QDBusConnection::disconnectFromBus(QStringLiteral("client"));
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
-
     void start()
     {
-        auto bus = QDBusConnection::connectToBus(m_address, QStringLiteral("shell"));
-        EXPECT_TRUE(bus.registerObject(QStringLiteral("/PlasmaShell"), &m_shell,
-                                       QDBusConnection::ExportAllSlots));
-        EXPECT_TRUE(bus.registerService(QStringLiteral("org.kde.plasmashell")));
+        auto bus = m_bus.connection();
+        m_shellsBus = bus.name();
+        bus.registerObject(u"/PlasmaShell"_s, &m_shell, QDBusConnection::ExportAllSlots);
+        EXPECT_TRUE(bus.registerService(u"org.kde.plasmashell"_s));
     }
 
-    static void stop() { QDBusConnection::disconnectFromBus(QStringLiteral("shell")); }
+    void stop() { QDBusConnection::disconnectFromBus(m_shellsBus); }
 
     QString url() const { return m_pictures->desktopImageUrl(m_screen); }
 
-    QString set(const QString &path, const QString &screen)
-    {
-        QString result;
-        m_pictures->setDesktopImageUrl(
-            fileUrl(path), screen, DesktopScaling::Fill, [&](const auto &outcome) {
-                result = outcome ? QStringLiteral("-")
-                                 : outcome.error().screen + u'/' + outcome.error().description;
-            });
-        EXPECT_TRUE(result.isEmpty()) << "answered from within";
-        EXPECT_TRUE(testing::waitFor([&] { return !result.isEmpty(); }));
-        return result;
-    }
+    QString set(const QString &path) { return setPicture(*m_pictures, path, m_screen); }
 
     TempHome m_home;
-    QProcess m_daemon;
-    QString m_address;
-    QString m_screen;
+    PrivateBus m_bus;
+    QString m_shellsBus, m_screen;
     FakeShell m_shell;
     std::unique_ptr<PlasmaPictures> m_pictures;
 };
 
 TEST_F(Plasma, setsReadsBackAndSpellsARewrittenFileAnew)
 {
-    const QString path = m_home.write(QStringLiteral("a \"b'\n%41.png"), "one");
-    EXPECT_EQ(set(path, m_screen), u"-");
+    const QString path = m_home.write(u"a \"b'\n%41.png"_s, "one");
+    EXPECT_EQ(set(path), QString());
     EXPECT_EQ(url(), fileUrl(path));
-    EXPECT_EQ(set(path, m_screen), u"-");
-    m_home.write(QStringLiteral("a \"b'\n%41.png"), "another");
-    EXPECT_EQ(set(path, m_screen), u"-");
+    EXPECT_EQ(set(path), QString());
+    m_home.write(u"a \"b'\n%41.png"_s, "another");
+    EXPECT_EQ(set(path), QString());
     EXPECT_EQ(url(), fileUrl(path));
     const QString usual = plasmaImage(path, false);
     EXPECT_EQ(m_shell.images, QStringList({usual, usual, plasmaImage(path, true)}));
 }
 
-TEST_F(Plasma, tellsWhatFailedAndWhere)
+TEST_F(Plasma, tellsWhatFailed)
 {
-    const QString path = m_home.write(QStringLiteral("a.png"), "one");
-    EXPECT_EQ(set(path + u'x', m_screen), m_screen + QLatin1String("/The picture is not a file."));
-    EXPECT_EQ(set(path, QStringLiteral("gone")), u"gone/The screen is not connected.");
+    const QString path = m_home.write(u"a.png"_s, "one");
+    EXPECT_EQ(set(path + u'x'), u"The picture is not a file.");
+    EXPECT_EQ(setPicture(*m_pictures, path, u"gone"_s), u"The screen is not connected.");
     m_shell.isDeaf = true;
-    EXPECT_EQ(set(path, m_screen),
-              m_screen + QLatin1String("/The desktop did not keep the picture that it was given."));
-    m_shell.error = QStringLiteral("Widgets are locked\nbacktrace");
-    EXPECT_EQ(set(path, m_screen), m_screen + QLatin1String("/Widgets are locked"));
+    EXPECT_EQ(set(path), u"The desktop did not keep the picture that it was given.");
+    m_shell.error = u"Widgets are locked\nbacktrace"_s;
+    EXPECT_EQ(set(path), u"Widgets are locked");
     EXPECT_EQ(url(), u"file://localhost/slides/");
 }
 
 TEST_F(Plasma, followsTheSettingsFileAlsoWhenItIsReplaced)
 {
-    const QString file = m_home.path(QStringLiteral("plasma-org.kde.plasma.desktop-appletsrc"));
-    m_shell.plugin = QStringLiteral("org.kde.image");
+    const QString file = m_home.path(u"plasma-org.kde.plasma.desktop-appletsrc"_s);
+    m_shell.plugin = u"org.kde.image"_s;
     for (const char *name : {"1", "2", "3"}) {
-        m_shell.image = QLatin1String("file:///") + QLatin1String(name);
-        const QString part = m_home.write(QStringLiteral("part"), name);
+        m_shell.image = "file:///"_L1 + QLatin1String(name);
+        const QString part = m_home.write(u"part"_s, name);
         ASSERT_EQ(std::rename(qPrintable(part), qPrintable(file)), 0);
-        MORAVEL_WAIT(url() == QLatin1String("file://localhost/") + QLatin1String(name));
+        MORAVEL_WAIT(url() == "file://localhost/"_L1 + QLatin1String(name));
     }
 }
 
@@ -244,14 +199,13 @@ TEST_F(Plasma, noticesARestartedShell)
     int changes = 0;
     m_pictures->onScreensChanged = [&] { ++changes; };
     stop();
-    m_shell.plugin = QStringLiteral("org.kde.image");
-    m_shell.image = QStringLiteral("/new.png");
+    m_shell.plugin = u"org.kde.image"_s;
+    m_shell.image = u"/new.png"_s;
     start();
     MORAVEL_WAIT(changes > 0);
     EXPECT_EQ(url(), u"file://localhost/new.png");
 }
 
 } // namespace
-} // namespace moravel
 
 #include "PlasmaTest.moc"

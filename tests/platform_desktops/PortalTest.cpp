@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "platform_desktops/SetPicture.h"
 #include "platform_session/PrivateBus.h"
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/PortalPictures.h"
@@ -10,10 +10,7 @@
 #include <QDBusObjectPath>
 #include <QDBusUnixFileDescriptor>
 
-namespace moravel {
 namespace {
-
-using namespace moravel::testing;
 
 /// Stands in for the portal: reads the picture and answers as it is told.
 class FakePortal : public QObject, protected QDBusContext
@@ -24,15 +21,15 @@ class FakePortal : public QObject, protected QDBusContext
 public:
     explicit FakePortal(const QDBusConnection &bus) : m_bus(bus)
     {
-        m_bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
                              QDBusConnection::ExportAllSlots);
-        m_bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
     }
 
     void respond(uint result)
     {
-        auto signal = QDBusMessage::createSignal(
-            object, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+        auto signal =
+            QDBusMessage::createSignal(object, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         signal << result << QVariantMap();
         m_bus.send(signal);
     }
@@ -54,11 +51,10 @@ public Q_SLOTS:
         content = picture.readAll();
         options = given;
         QString sender = message().service().mid(1);
-        object =
-            QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2")
-                .arg(sender.replace(u'.', u'_'), given[QStringLiteral("handle_token")].toString());
+        object = u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(
+            sender.replace(u'.', u'_'), given[u"handle_token"_s].toString());
         if (fails)
-            sendErrorReply(QDBusError::UnknownInterface, QStringLiteral("no such thing"));
+            sendErrorReply(QDBusError::UnknownInterface, u"no such thing"_s);
         else if (!asksTheUser)
             respond(code); // before the reply
         return QDBusObjectPath(object);
@@ -75,26 +71,22 @@ protected:
 
     void start(PortalPictures &pictures, const QString &path, Answer &answer)
     {
-        pictures.setDesktopImageUrl(QStringLiteral("file://localhost") + path, QStringLiteral("A"),
-                                    DesktopScaling::Fill,
+        pictures.setDesktopImageUrl(u"file://localhost"_s + path, u"A"_s, DesktopScaling::Fill,
                                     [&answer](const auto &result) { answer = result; });
         EXPECT_FALSE(answer);
     }
 
-    bool set(PortalPictures &pictures, const QString &path)
+    static bool set(PortalPictures &pictures, const QString &path)
     {
-        Answer answer;
-        start(pictures, path, answer);
-        EXPECT_TRUE(waitFor([&] { return answer.has_value(); }));
-        return answer && answer->has_value();
+        return setPicture(pictures, path, u"A"_s).isEmpty();
     }
 
     TempHome home;
     PosixFiles files;
     PrivateBus bus;
-    const QString record = home.path(QStringLiteral("record.json"));
-    const QString one = home.write(QStringLiteral("one.png"), "ONE");
-    const QString two = home.write(QStringLiteral("two.png"), "TWO");
+    const QString record = home.path(u"record.json"_s);
+    const QString one = home.write(u"one.png"_s, "ONE");
+    const QString two = home.write(u"two.png"_s, "TWO");
 };
 
 TEST_F(PortalTest, handsThePictureOverAndRemembersIt)
@@ -103,22 +95,22 @@ TEST_F(PortalTest, handsThePictureOverAndRemembersIt)
     FakePortal portal(bus.connection());
     EXPECT_TRUE(PortalPictures::isThere(bus.connection()));
     PortalPictures pictures(files, record, bus.connection());
-    EXPECT_EQ(pictures.desktopImageUrl(QStringLiteral("A")), QString());
+    EXPECT_EQ(pictures.desktopImageUrl(u"A"_s), QString());
     EXPECT_TRUE(set(pictures, one));
     EXPECT_EQ(portal.content, "ONE");
-    EXPECT_EQ(portal.options[QStringLiteral("show-preview")], false);
-    EXPECT_EQ(portal.options[QStringLiteral("set-on")], QStringLiteral("background"));
+    EXPECT_EQ(portal.options[u"show-preview"_s], false);
+    EXPECT_EQ(portal.options[u"set-on"_s], u"background"_s);
 
-    const QString shown = QStringLiteral("file://localhost") + one;
+    const QString shown = u"file://localhost"_s + one;
     portal.code = 1; // the user refuses
     EXPECT_FALSE(set(pictures, two));
     portal.fails = true;
     EXPECT_FALSE(set(pictures, two));
     EXPECT_FALSE(set(pictures, home.path())); // a folder
-    EXPECT_FALSE(set(pictures, home.path(QStringLiteral("missing.png"))));
-    EXPECT_EQ(pictures.desktopImageUrl(QStringLiteral("B")), shown);
+    EXPECT_FALSE(set(pictures, home.path(u"missing.png"_s)));
+    EXPECT_EQ(pictures.desktopImageUrl(u"B"_s), shown);
     const PortalPictures again(files, record, bus.connection());
-    EXPECT_EQ(again.desktopImageUrl(QStringLiteral("A")), shown);
+    EXPECT_EQ(again.desktopImageUrl(u"A"_s), shown);
 }
 
 TEST_F(PortalTest, theNewestPictureEndsAnOpenQuestion)
@@ -140,10 +132,9 @@ TEST_F(PortalTest, theNewestPictureEndsAnOpenQuestion)
     portal.respond(0);
     MORAVEL_WAIT(second.has_value());
     EXPECT_TRUE(second->has_value());
-    EXPECT_EQ(pictures.desktopImageUrl({}), QStringLiteral("file://localhost") + two);
+    EXPECT_EQ(pictures.desktopImageUrl({}), u"file://localhost"_s + two);
 }
 
 } // namespace
-} // namespace moravel
 
 #include "PortalTest.moc"

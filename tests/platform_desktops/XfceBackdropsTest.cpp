@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/desktops/XfceBackdrops.h"
 
-#include <gtest/gtest.h>
-
-using namespace moravel;
+#include "support/Test.h"
 
 namespace {
 
-const QString Dp = QStringLiteral("DP-1");
+const QString Dp = u"DP-1"_s;
 
 QVariantMap with(std::initializer_list<std::pair<QString, QVariant>> list)
 {
@@ -20,20 +18,13 @@ QVariantMap with(std::initializer_list<std::pair<QString, QVariant>> list)
 TEST(XfceBackdrops, readTheEntryThatIsShown)
 {
     const QVariant no(false), yes(true);
-    const QString mode = QStringLiteral("/backdrop/single-workspace-mode");
-    const QString number = QStringLiteral("/backdrop/single-workspace-number");
-    const std::pair<QString, QVariant> first{xfce::property(Dp, 0, "last-image"),
-                                             QStringLiteral("/a b")};
-    const std::pair<QString, QVariant> second{xfce::property(Dp, 1, "last-image"),
-                                              QStringLiteral("/c")};
+    const QString mode = u"/backdrop/single-workspace-mode"_s;
+    const QString number = u"/backdrop/single-workspace-number"_s;
+    const std::pair<QString, QVariant> first{xfce::property(Dp, 0, "last-image"), u"/a b"_s};
+    const std::pair<QString, QVariant> second{xfce::property(Dp, 1, "last-image"), u"/c"_s};
     const QString cycle = xfce::property(Dp, 1, "backdrop-cycle-enable");
 
-    const struct
-    {
-        QVariantMap properties;
-        int current;
-        const char *url;
-    } table[] = {
+    const Table<QVariantMap, int, const char *> table{
         {with({first, second}), 1, "file://localhost/a%20b"}, // one for all is the default
         {with({first, second, {mode, yes}, {number, 1}}), 0, "file://localhost/c"},
         {with({first, second, {mode, no}}), 1, "file://localhost/c"},
@@ -43,15 +34,14 @@ TEST(XfceBackdrops, readTheEntryThatIsShown)
         {with({first, second, {number, -5}}), 2, "file://localhost/a%20b"},
         {{}, 0, ""},
     };
-
-    for (const auto &row : table)
-        EXPECT_EQ(xfce::imageUrl(row.properties, Dp, row.current), QLatin1String(row.url));
+    for (const auto &[properties, current, url] : table)
+        EXPECT_EQ(xfce::imageUrl(properties, Dp, current), QLatin1String(url));
 }
 
 TEST(XfceBackdrops, changeOnlyWhatDiffersAndTheShownFirst)
 {
-    const QString path = QStringLiteral("/p");
-    QVariantMap properties{{QStringLiteral("/backdrop/single-workspace-mode"), false}};
+    const QString path = u"/p"_s;
+    QVariantMap properties{{u"/backdrop/single-workspace-mode"_s, false}};
     const auto all = xfce::changesFor(properties, Dp, {3, 1}, path, DesktopScaling::Fit);
     ASSERT_EQ(all.size(), 6);
     EXPECT_EQ(all[0], (xfce::Change{xfce::property(Dp, 1, "image-style"), 4}));
