@@ -37,7 +37,7 @@ protected:
         ports.setDeletingDesktop = [this](bool is) { desktop += is ? u'1' : u'0'; };
         ports.rotateDesktop = [this] { desktop += u'r'; };
         deletion = std::make_unique<Deletion>(
-            DeletionContext{world.cells, world.dates, *world.files, world.records_, world.updates,
+            DeletionContext{world.cells, world.dates, world.files, world.records, world.updates,
                             world.links, trash, world.loop},
             ports);
         world.addSources(sources);
@@ -69,7 +69,7 @@ protected:
         return found;
     }
 
-    QStringList fields(int line) const { return world.records().value(line).split(u'\t'); }
+    QStringList fields(int line) const { return world.lines().value(line).split(u'\t'); }
 
     World world;
     DiskTrash trash{world.home.path(QStringLiteral("Trash"))};
@@ -95,7 +95,7 @@ TEST_P(DeletingOn, AndRestoringLosesNothing)
         world.home.write(QStringLiteral("Trash"), "not a folder");
     start();
     const QStringList files = pictures();
-    const QStringList records = world.records();
+    const QStringList records = world.lines();
     ThumbView &cell = world.cell(0);
     const QString caption = cell.captionString();
     const QString info = cell.infoString();
@@ -114,7 +114,7 @@ TEST_P(DeletingOn, AndRestoringLosesNothing)
     run();
     EXPECT_FALSE(world.loop.isHeld());
     EXPECT_EQ(pictures(), files);
-    EXPECT_EQ(world.records(), records);
+    EXPECT_EQ(world.lines(), records);
     EXPECT_EQ(cell.captionString(), caption);
     EXPECT_EQ(cell.infoString(), info);
     EXPECT_EQ(cell.thumbPath(), QStringLiteral("http://pic/thumb-A-7-4-2011.jpg"));

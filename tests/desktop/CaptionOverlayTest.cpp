@@ -2,25 +2,16 @@
 #include "desktop/CaptionOverlay.h"
 
 #include "DesktopWorld.h"
+#include "support/Test.h"
 
 #include "desktop/CaptionDrawing.h"
-
-#include <gtest/gtest.h>
-
-namespace moravel::testing {
 
 namespace {
 
 TEST(CaptionOverlay, fontFillsAQuarterOfTheWidth)
 {
-    const struct
-    {
-        const char *what;
-        int width;
-        double perPoint; ///< Width of the text at one point.
-        double size;
-        double lastCandidate;
-    } cases[] = {
+    // perPoint: Width of the text at one point.
+    const Table<const char *, int, double, double, double> cases{
         {"fits at once", 1600, 25, 16, 16},
         {"shrinks into the band", 1600, 40, 10, 10},
         {"grows into the band", 1600, 10, 38, 38},
@@ -30,14 +21,13 @@ TEST(CaptionOverlay, fontFillsAQuarterOfTheWidth)
         {"no picture", 0, 10, 6, 5},
         {"no text", 1600, 0, 16, 16},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, width, perPoint, size, lastCandidate] : cases) {
+        SCOPED_TRACE(what);
         const FittedFont font =
-            fitFont(c.width, [&](double size) { return QSizeF(size * c.perPoint, 3 * size); });
-        EXPECT_EQ(font.size, c.size);
-        EXPECT_EQ(font.lastCandidate, c.lastCandidate);
-        EXPECT_EQ(font.text.height(), 3 * c.size);
+            fitFont(width, [&](double points) { return QSizeF(points * perPoint, 3 * points); });
+        EXPECT_EQ(font.size, size);
+        EXPECT_EQ(font.lastCandidate, lastCandidate);
+        EXPECT_EQ(font.text.height(), 3 * size);
     }
 }
 
@@ -55,17 +45,17 @@ TEST(CaptionOverlay, writesTheTextsAndSetsTheCopy)
 {
     DesktopWorld world;
     world.pixelSize = {400, 300};
-    ThumbView &cell = world.cell(QStringLiteral("sky"), QStringLiteral("moon.jpg"));
-    cell.showCaption(QStringLiteral("The moon"));
-    world.desktop->addTextToDesktop(world.pictureFolder() + QStringLiteral("moon.jpg"), cell);
+    ThumbView &cell = world.cell(u"sky"_s, u"moon.jpg"_s);
+    cell.showCaption(u"The moon"_s);
+    world.desktop->addTextToDesktop(world.pictureFolder() + u"moon.jpg"_s, cell);
     world.deliver();
-    const QString copy = world.home.path(QStringLiteral("data/Moravel/moon.png"));
+    const QString copy = world.home.path(u"data/Moravel/moon.png"_s);
     EXPECT_TRUE(TempHome::read(copy).startsWith("\x89PNG"));
     EXPECT_EQ(world.desktop->currentDesktopPath(), copy);
 
     QImage picture(400, 300, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::gray);
-    drawCaption(picture, QStringLiteral("WWW\nWWW"), 20, {10, 20});
+    drawCaption(picture, u"WWW\nWWW"_s, 20, {10, 20});
     const auto has = [&picture](QRect area, auto test) {
         for (int y = area.top(); y <= area.bottom(); ++y) {
             for (int x = area.left(); x <= area.right(); ++x) {
@@ -82,5 +72,3 @@ TEST(CaptionOverlay, writesTheTextsAndSetsTheCopy)
 }
 
 } // namespace
-
-} // namespace moravel::testing

@@ -1,35 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
 
-#include "support/HomeFiles.h"
-
 #include <QFileInfo>
 
 namespace moravel::testing {
 
-namespace {
-
-QImage plain(QSize size, Qt::GlobalColor color)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    return image;
-}
-
-} // namespace
-
 DesktopWorld::DesktopWorld()
-    : files(std::make_unique<HomeFiles>(home))
-    , platform{loop, http, defaults, *files, alerts, images, random}
-    , preferences(defaults)
-    , cells({plain({2, 2}, Qt::gray), plain({2, 2}, Qt::red), plain({2, 2}, Qt::green)}, {})
-    , folders(*files, alerts)
-    , legacy(folders, *files, dates, names)
-    , records(folders, *files, alerts, dates,
-              [this](const QString &name) { return legacy.oldStoredDataForFile(name); })
-    , links(folders, *files)
 {
-    cells.createSpecialCells(loop.now());
     ports.isDownloading = [this](const QString &path) { return path == downloading; };
     ports.pixelSize = [this](const QString &path, const std::function<void(QSize)> &done) {
         images.check(path, [this, done](QSize size) { done(size.isEmpty() ? size : pixelSize); });
@@ -49,7 +26,11 @@ DesktopWorld::DesktopWorld()
     ports.showNextChange = [this](const QString &text) { nextChange = text; };
     ports.showKeepButton = [this](bool visible) { keepButton = visible; };
     ports.showDockTile = [this](const QImage &tile) { tiles.append(tile); };
-    ports.applicationIcon = [] { return plain({64, 64}, Qt::yellow); };
+    ports.applicationIcon = [] {
+        QImage icon(64, 64, QImage::Format_RGB32);
+        icon.fill(Qt::yellow);
+        return icon;
+    };
     ports.activate = [this] { others.append(QStringLiteral("activate")); };
     ports.showLargePic = [this](ThumbView &cell) {
         others.append(QStringLiteral("large %1").arg(cell.tag()));

@@ -2,34 +2,15 @@
 #pragma once
 
 #include "support/FakeDesktopPictures.h"
-#include "support/FakeHttp.h"
-#include "support/FakeImages.h"
-#include "support/FakeMainLoop.h"
-#include "support/FakePlatform.h"
-#include "support/TempHome.h"
+#include "support/PlayedStore.h"
 
 #include "desktop/DesktopManagement.h"
 #include "desktop/DesktopUrls.h"
-#include "platform/linux/PosixFiles.h"
-#include "store/LegacyCaptions.h"
 
 namespace moravel::testing {
 
-/// Counts the pictures that are decoded.
-class CountingImages : public FakeImages
-{
-public:
-    void load(const QString &path, QSize box, std::function<void(QImage)> done) override
-    {
-        loads.append(path);
-        FakeImages::load(path, box, std::move(done));
-    }
-
-    QStringList loads;
-};
-
 /// Desktop management on a real disk, a virtual clock and a desktop of two screens, A and B.
-class DesktopWorld
+class DesktopWorld : public PlayedStore
 {
 public:
     DesktopWorld();
@@ -47,26 +28,7 @@ public:
     /// Lets time pass in steps of a quarter of a second.
     void run(double seconds);
 
-    QString pictureFolder() const { return home.path(QStringLiteral("Pictures/Moravel/")); }
-
-    TempHome home;
-    FakeMainLoop loop;
-    FakeHttp http;
-    FakeDefaults defaults;
-    std::unique_ptr<Files> files;
-    FakeAlerts alerts;
-    CountingImages images;
-    FakeRandom random;
-    Platform platform;
     FakeDesktopPictures pictures;
-    Dates dates{QStringLiteral("en_US")};
-    Preferences preferences;
-    ThumbCells cells;
-    QMap<QString, QString> names;
-    Folders folders;
-    LegacyCaptions legacy;
-    RecordFile records;
-    PictureLinks links;
     DesktopPorts ports;
 
     QString downloading;

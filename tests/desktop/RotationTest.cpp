@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
-
-#include <gtest/gtest.h>
-
-namespace moravel::testing {
+#include "support/Test.h"
 
 namespace {
 
@@ -31,16 +28,16 @@ TEST_F(Rotating, takesTheFirstUsableCell)
 {
     const auto cell = [this](const char *name) -> ThumbView & {
         const QString text = QString::fromLatin1(name);
-        return world.cell(text, text + QStringLiteral(".jpg"));
+        return world.cell(text, text + u".jpg"_s);
     };
     cell("hidden").setHidden(true);
     cell("used").setUsedAsDesktop(true);
     cell("nopic").setPicPath({});
     cell("deleted").setThumbPath(ThumbView::deletedMark());
-    cell("missing").setPicPath(QStringLiteral("http://site/not_there.jpg"));
+    cell("missing").setPicPath(u"http://site/not_there.jpg"_s);
     ThumbView &good = cell("good");
     ThumbView &next = cell("next");
-    QFile(world.pictureFolder() + QStringLiteral("good.jpg")).resize(11 * 1024 * 1024);
+    QFile(world.pictureFolder() + u"good.jpg"_s).resize(11 * 1024 * 1024);
     rotate();
     EXPECT_EQ(shownName(), u"good.jpg") << "of any size";
     EXPECT_TRUE(good.usedAsDesktop());
@@ -55,7 +52,7 @@ TEST_F(Rotating, takesTheFirstUsableCell)
 TEST_F(Rotating, shufflesTheCells)
 {
     for (const char *name : {"a", "b", "c"})
-        world.cell(QString::fromLatin1(name), QString::fromLatin1(name) + QStringLiteral(".jpg"));
+        world.cell(QString::fromLatin1(name), QString::fromLatin1(name) + u".jpg"_s);
     world.random.numbers = {2, 0, 0};
     rotate(RotateSender::TimerOrMenu);
     EXPECT_EQ(shownName(), u"c.jpg");
@@ -67,40 +64,34 @@ TEST_F(Rotating, shufflesTheCells)
 
 TEST_F(Rotating, fallsBackToTheFolder)
 {
-    const struct
-    {
-        const char *what;
-        QStringList files;
-        std::uint32_t number;
-        const char *shown;
-    } cases[] = {
+    const Table<const char *, QStringList, std::uint32_t, const char *> cases{
         {"no file", {}, 3, ""},
-        {"one file and no thumbs folder", {QStringLiteral("a.jpg")}, 0, ""},
-        {"wraps before the last", {QStringLiteral("a.jpg"), QStringLiteral("b.jpg")}, 3, "a.jpg"},
-        {"no picture", {QStringLiteral("a.txt"), QStringLiteral("b.jpg")}, 0, ""},
-        {"too big", {QStringLiteral("BIG.jpg"), QStringLiteral("b.jpg")}, 0, ""},
-        {"only picture is last", {QStringLiteral("a.txt"), QStringLiteral("z.jpg")}, 1, ""},
-        {"thumbs counts", {QStringLiteral("z.jpg"), QStringLiteral("thumbs/t.jpg")}, 1, ""},
-        {"before thumbs", {QStringLiteral("a.jpg"), QStringLiteral("thumbs/t.jpg")}, 1, "a.jpg"},
+        {"never the last", {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s}, 0xFFFFFFFF, "b.jpg"},
+        {"one file and no thumbs folder", {u"a.jpg"_s}, 0, ""},
+        {"wraps before the last", {u"a.jpg"_s, u"b.jpg"_s}, 3, "a.jpg"},
+        {"no picture", {u"a.txt"_s, u"b.jpg"_s}, 0, ""},
+        {"too big", {u"BIG.jpg"_s, u"b.jpg"_s}, 0, ""},
+        {"only picture is last", {u"a.txt"_s, u"z.jpg"_s}, 1, ""},
+        {"thumbs counts", {u"z.jpg"_s, u"thumbs/t.jpg"_s}, 1, ""},
+        {"before thumbs", {u"a.jpg"_s, u"thumbs/t.jpg"_s}, 1, "a.jpg"},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto &[what, files, number, shown] : cases) {
+        SCOPED_TRACE(what);
         DesktopWorld fresh;
-        for (const QString &name : c.files)
+        for (const QString &name : files)
             fresh.picture(name, name.startsWith(u'B') ? 10 * 1024 * 1024 + 1 : 4);
-        fresh.random.numbers = {c.number};
+        fresh.random.numbers = {number};
         fresh.desktop->rotation().rotateDesktop(RotateSender::TimerOrMenu);
         fresh.run(3);
-        EXPECT_EQ(fresh.shownOn().section(u'/', -1), QLatin1String(c.shown));
+        EXPECT_EQ(fresh.shownOn().section(u'/', -1), QLatin1String(shown));
         EXPECT_EQ(fresh.nextThumbs, 0);
     }
 }
 
 TEST_F(Rotating, everyChangeStartsAFullInterval)
 {
-    world.cell(QStringLiteral("a"), QStringLiteral("a.jpg"));
-    world.cell(QStringLiteral("b"), QStringLiteral("b.jpg"));
+    world.cell(u"a"_s, u"a.jpg"_s);
+    world.cell(u"b"_s, u"b.jpg"_s);
     world.preferences.setChangeFrequency(15);
     EXPECT_EQ(secondsLeft(), 900);
     EXPECT_EQ(world.nextChange, u"New desktop in 15 minutes");
@@ -126,7 +117,7 @@ TEST_F(Rotating, everyChangeStartsAFullInterval)
 
 TEST_F(Rotating, firstChangeComesHalfAMinuteAfterTheGrid)
 {
-    world.cell(QStringLiteral("a"), QStringLiteral("a.jpg"));
+    world.cell(u"a"_s, u"a.jpg"_s);
     rotation.markFirstRotationDue();
     EXPECT_FALSE(rotation.nextDesktopRotate()) << "no rotation wanted";
     world.preferences.setRotateFrequency(30);
@@ -167,8 +158,8 @@ TEST_F(Rotating, holdLastsAnHour)
 
 TEST_F(Rotating, previousDesktopToggles)
 {
-    const QString a = world.picture(QStringLiteral("a b.jpg"));
-    const QString b = world.picture(QStringLiteral("b.jpg"));
+    const QString a = world.picture(u"a b.jpg"_s);
+    const QString b = world.picture(u"b.jpg"_s);
     rotation.previousDesktop();
     world.deliver();
     EXPECT_TRUE(world.pictures.sets.isEmpty()) << "there is none yet";
@@ -183,5 +174,3 @@ TEST_F(Rotating, previousDesktopToggles)
 }
 
 } // namespace
-
-} // namespace moravel::testing

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/Test.h"
+
 #include "desktop/DesktopSizing.h"
 #include "desktop/DesktopUrls.h"
 #include "desktop/DockMenu.h"
@@ -7,10 +9,7 @@
 #include "desktop/WatchRules.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <map>
-
-namespace moravel {
 
 namespace {
 
@@ -21,11 +20,7 @@ QString text(const char *utf8)
 
 TEST(DesktopUrls, readThePlainPath)
 {
-    const struct
-    {
-        const char *url;
-        const char *path;
-    } cases[] = {
+    const Table<const char *, const char *> cases{
         {"", ""},
         {"file://localhost/home/a/b.jpg", "/home/a/b.jpg"},
         {"file://localhost/a%20b%25%C3%BC%27.jpg", "/a b%ü'.jpg"},
@@ -36,11 +31,8 @@ TEST(DesktopUrls, readThePlainPath)
         {"file://localhost/folder/", "/folder/"},
         {"file:///other", "file:///other"},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.url);
-        EXPECT_EQ(desktopPathFromUrl(text(c.url)), text(c.path));
-    }
+    for (const auto &[url, path] : cases)
+        EXPECT_EQ(desktopPathFromUrl(text(url)), text(path)) << url;
     EXPECT_EQ(withoutFileHost(text("file://localhost/a%20b")), text("/a%20b"));
     for (const char *path : {"/a b/ü'\"%41#?;.jpg", "/f/", "/line\nfeed"}) {
         SCOPED_TRACE(path);
@@ -55,22 +47,16 @@ TEST(DesktopSizing, followsTheSettingThenTheSizes)
     using enum DesktopScaling;
     constexpr QSize Screen{1440, 900};
 
-    const struct
-    {
-        int setting;
-        QSize picture;
-        DesktopScaling scaling;
-    } cases[] = {
+    const Table<int, QSize, DesktopScaling> cases{
         {1000, {1024, 768}, Centred}, {1000, {2000, 1000}, Fill}, {1000, {1440, 600}, Fit},
         {1000, {1440, 900}, Fit},     {1000, {2000, 900}, Fit},   {1000, {2000, 100}, Fit},
         {1000, {0, 0}, Centred},      {1234, {2000, 1000}, Fill}, {1001, {2000, 1000}, Fit},
         {1001, {10, 10}, Fit},        {1002, {10, 10}, Fill},     {1003, {2000, 1000}, Centred},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message()
-                     << c.setting << ' ' << c.picture.width() << 'x' << c.picture.height());
-        EXPECT_EQ(desktopScaling(c.picture, Screen, c.setting), c.scaling);
+    for (const auto &[setting, picture, scaling] : cases) {
+        SCOPED_TRACE(::testing::Message()
+                     << setting << ' ' << picture.width() << 'x' << picture.height());
+        EXPECT_EQ(desktopScaling(picture, Screen, setting), scaling);
     }
     EXPECT_EQ(desktopScaling({0, 0}, {0, 0}, 1000), Fit) << "without a main screen";
     EXPECT_EQ(desktopSizeString(1001), text("fit to screen"));
@@ -96,36 +82,19 @@ TEST(RotationRules, shuffleKeepsAllAndTakesEachOrder)
     EXPECT_TRUE(shuffleArray(none, [] { return 7u; }).isEmpty());
 }
 
-TEST(RotationRules, fallbackNeverTakesTheLast)
-{
-    const QStringList three{text("a"), text("b"), text("c")};
-    EXPECT_EQ(fallbackEntry(three, 0), text("a"));
-    EXPECT_EQ(fallbackEntry(three, 0xFFFFFFFF), text("b"));
-    EXPECT_EQ(fallbackEntry(three, 2), text("a"));
-    EXPECT_FALSE(fallbackEntry({}, 5));
-    EXPECT_FALSE(fallbackEntry({text("a")}, 0));
-}
-
 TEST(RotationRules, infoTextRoundsUp)
 {
     const QDateTime now(QDate(2011, 7, 4), QTime(9, 30));
 
-    const struct
-    {
-        int seconds;
-        const char *text;
-    } cases[] = {
+    const Table<int, const char *> cases{
         {61 * 60, "New desktop in 2 hours"},        {3600, "New desktop in 60 minutes"},
         {90, "New desktop in 2 minutes"},           {60, "New desktop in about 1 minute"},
         {45, "New desktop in about 1 minute"},      {-99, "New desktop in about 1 minute"},
         {24 * 3600, "New desktop in 24 hours"},     {3601, "New desktop in 2 hours"},
         {59 * 60 + 1, "New desktop in 60 minutes"},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.seconds);
-        EXPECT_EQ(rotateInfoText(now.addSecs(c.seconds), now, true), text(c.text));
-    }
+    for (const auto &[seconds, info] : cases)
+        EXPECT_EQ(rotateInfoText(now.addSecs(seconds), now, true), text(info)) << seconds;
     EXPECT_EQ(rotateInfoText({}, now, true), text("Desktop set by System Prefs"));
     EXPECT_EQ(rotateInfoText({}, now, false), text("No desktop change scheduled"));
 }
@@ -137,12 +106,7 @@ TEST(WatchRules, decideByWhatIsShown)
     const QString b = text("/b.jpg");
     const QString none;
 
-    const struct
-    {
-        const char *what;
-        WatchState state;
-        WatchAction action;
-    } cases[] = {
+    const Table<const char *, WatchState, WatchAction> cases{
         {"unknown", {none, a, a, true, true, true}, None},
         {"folder", {text("/f/"), a, a, true, true, true}, ShowFolder},
         {"folder first", {text("/f/"), none, none, false, false, false}, ShowFolder},
@@ -155,11 +119,8 @@ TEST(WatchRules, decideByWhatIsShown)
         {"same, other cell", {a, a, b, false, false, true}, Refresh},
         {"foreign", {b, a, b, false, true, true}, Refresh},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(watchAction(c.state), c.action);
-    }
+    for (const auto &[what, state, action] : cases)
+        EXPECT_EQ(watchAction(state), action) << what;
 }
 
 TEST(DockMenu, hasWhatCanBeDone)
@@ -208,5 +169,3 @@ TEST(DockTile, hasTheIconInItsLowerLeftQuarter)
 }
 
 } // namespace
-
-} // namespace moravel

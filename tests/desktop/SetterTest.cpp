@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
-#include "support/ExpectWarning.h"
+#include "support/Test.h"
 
 #include "desktop/DesktopSizing.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel::testing {
-
 namespace {
 
-const QString A = QStringLiteral("A");
-const QString B = QStringLiteral("B");
+const QString A = u"A"_s;
+const QString B = u"B"_s;
 
 class Setter : public ::testing::Test
 {
@@ -31,9 +27,9 @@ protected:
     }
 
     DesktopWorld world;
-    const QString old = world.picture(QStringLiteral("old ü.jpg"));
-    const QString moon = world.picture(QStringLiteral("moon.jpg"));
-    const QString sun = world.picture(QStringLiteral("sun.jpg"));
+    const QString old = world.picture(u"old ü.jpg"_s);
+    const QString moon = world.picture(u"moon.jpg"_s);
+    const QString sun = world.picture(u"sun.jpg"_s);
     DesktopSetter &setter = world.desktop->setter();
     ThumbView &cell = world.cells.desktopThumb();
 };
@@ -45,7 +41,7 @@ TEST_F(Setter, setsTheMainScreenAndRemembersThePrevious)
     const FakeDesktopPictures::Set expected{desktopUrlFromPath(moon), A, DesktopScaling::Centred};
     EXPECT_EQ(world.pictures.sets, QList{expected});
     EXPECT_EQ(setter.previousDesktopPath(), desktopUrlFromPath(old));
-    EXPECT_TRUE(setter.previousDesktopPath().contains(QStringLiteral("%20"))) << "stays a URL";
+    EXPECT_TRUE(setter.previousDesktopPath().contains(u"%20"_s)) << "stays a URL";
     EXPECT_EQ(world.desktop->currentDesktopPath(), moon);
     EXPECT_EQ(cell.picPath(), moon);
     EXPECT_TRUE(cell.buttons().prevDesktopBtn);
@@ -78,7 +74,7 @@ TEST_F(Setter, deletionKeepsThePreviousAndIsOverEvenIfTheDesktopRefuses)
     const QString previous = setter.previousDesktopPath();
     setter.setDeletingDesktop(true);
     world.pictures.refusing = {A};
-    expectWarning(QStringLiteral("refused"));
+    expectWarning(u"refused"_s);
     set(sun);
     EXPECT_FALSE(setter.deletingDesktop());
     EXPECT_EQ(setter.previousDesktopPath(), previous);
@@ -90,7 +86,7 @@ TEST_F(Setter, goesThroughAllScreensThoughOneFails)
 {
     world.preferences.setDesktopOptions(Preferences::AllScreensTag);
     world.pictures.refusing = {A};
-    expectWarning(QStringLiteral("moon.jpg not set on screen A: refused"));
+    expectWarning(u"moon.jpg not set on screen A: refused"_s);
     set(moon);
     EXPECT_EQ(world.shownOn(B), moon);
     EXPECT_EQ(world.desktop->currentDesktopPath(), old);
@@ -109,8 +105,8 @@ TEST_F(Setter, goesThroughAllScreensThoughOneFails)
 
 TEST_F(Setter, whatIsNoPictureFileIsRefused)
 {
-    expectWarning(QStringLiteral("no picture file"));
-    for (const QString &path : {QStringLiteral("/nowhere.jpg"), world.pictureFolder()}) {
+    expectWarning(u"no picture file"_s);
+    for (const QString &path : {u"/nowhere.jpg"_s, world.pictureFolder()}) {
         SCOPED_TRACE(qPrintable(path));
         set(path);
         EXPECT_TRUE(world.pictures.sets.isEmpty());
@@ -136,18 +132,13 @@ TEST_F(Setter, silentDesktopIsGivenUpButALateAnswerCounts)
 {
     setter.setDesktopToFile(moon);
     world.images.deliver();
-    expectWarning(QStringLiteral("no answer from the desktop"));
+    expectWarning(u"no answer from the desktop"_s);
     world.loop.advance(10);
     EXPECT_FALSE(setter.isBusy());
     world.deliver();
     EXPECT_EQ(world.desktop->currentDesktopPath(), moon);
 
-    world.desktop.reset(); // answers that come after the end find nobody
-}
-
-TEST_F(Setter, answersAfterTheEndFindNobody)
-{
-    setter.setDesktopToFile(moon);
+    setter.setDesktopToFile(sun); // answers that come after the end find nobody
     world.images.deliver();
     world.desktop.reset();
     world.deliver();
@@ -170,8 +161,7 @@ TEST_F(Setter, sizingUsesTheMainScreenForAll)
     EXPECT_EQ(world.pictures.sets[0].scaling, DesktopScaling::Fill);
 
     world.show(old);
-    expectWarning(QStringLiteral("no picture file: ") + world.pictureFolder()
-                  + QStringLiteral("old%20"));
+    expectWarning(u"no picture file: "_s + world.pictureFolder() + u"old%20"_s);
     world.desktop->setSizing(sizing::Center); // the escaped path names no file
     EXPECT_EQ(setter.previousDesktopPath(), desktopUrlFromPath(old));
     EXPECT_EQ(world.preferences.desktopSizeSetting(), sizing::Center);
@@ -202,8 +192,8 @@ TEST_F(Setter, newAndRestartedScreensGetThePictureAgain)
 TEST_F(Setter, hugePictureIsAskedFor)
 {
     constexpr qint64 TenMb = 10 * 1024 * 1024;
-    const QString big = world.picture(QStringLiteral("big.jpg"), TenMb + 1);
-    const QString ten = world.picture(QStringLiteral("ten.jpg"), TenMb);
+    const QString big = world.picture(u"big.jpg"_s, TenMb + 1);
+    const QString ten = world.picture(u"ten.jpg"_s, TenMb);
     world.preferences.setChangeFrequency(5);
     world.loop.advance(60);
     const QDateTime due = world.loop.now().addSecs(300);
@@ -229,5 +219,3 @@ TEST_F(Setter, hugePictureIsAskedFor)
 }
 
 } // namespace
-
-} // namespace moravel::testing

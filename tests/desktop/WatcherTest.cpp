@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
+#include "support/Test.h"
 
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
 #include <malloc.h>
-
-namespace moravel::testing {
 
 namespace {
 
-const QString A = QStringLiteral("A");
+const QString A = u"A"_s;
 
 class Watching : public ::testing::Test
 {
@@ -25,15 +23,14 @@ protected:
     QColor tileCorner() const { return world.tiles.last().pixelColor(0, 0); }
 
     DesktopWorld world;
-    const QString moon = world.picture(QStringLiteral("moon.jpg"));
-    const QString sun = world.picture(QStringLiteral("sun.jpg"));
+    const QString moon = world.picture(u"moon.jpg"_s);
+    const QString sun = world.picture(u"sun.jpg"_s);
     ThumbView &cell = world.cells.desktopThumb();
 };
 
 TEST_F(Watching, firstLookFillsTheCellFromTheRecord)
 {
-    world.addRecord(
-        QStringLiteral("20110704|sky|http://s/t.jpg|http://s/moon.jpg|http://s/|A moon|Info"));
+    world.addRecord(u"20110704|sky|http://s/t.jpg|http://s/moon.jpg|http://s/|A moon|Info"_s);
     EXPECT_TRUE(world.desktop->applicationDockMenu().isEmpty());
     start(moon);
     EXPECT_EQ(world.desktop->currentDesktopPath(), moon);
@@ -56,7 +53,7 @@ TEST_F(Watching, firstLookFillsTheCellFromTheRecord)
 TEST_F(Watching, foreignPictureIsFollowedWithoutDecodingItAgain)
 {
     start(moon);
-    const QString foreign = world.home.write(QStringLiteral("else/my_cat.jpg"), "IMG");
+    const QString foreign = world.home.write(u"else/my_cat.jpg"_s, "IMG");
     world.show(foreign);
     world.run(1);
     EXPECT_EQ(cell.picPath(), foreign);
@@ -73,10 +70,10 @@ TEST_F(Watching, foreignPictureIsFollowedWithoutDecodingItAgain)
     EXPECT_EQ(world.tiles.size(), tiles);
     EXPECT_EQ(changed.size(), 0);
 
-    world.home.write(QStringLiteral("else/my_cat.jpg"), "IMG, another one");
+    world.home.write(u"else/my_cat.jpg"_s, "IMG, another one");
     world.run(1);
     EXPECT_EQ(world.images.loads.size(), loads + 1) << "same name, new content";
-    world.addRecord(QStringLiteral("20110704|cats|http://s/t.jpg|http://s/my_cat.jpg||Cat|"));
+    world.addRecord(u"20110704|cats|http://s/t.jpg|http://s/my_cat.jpg||Cat|"_s);
     world.run(1);
     EXPECT_EQ(cell.captionString(), u"Cat");
     EXPECT_EQ(world.images.loads.size(), loads + 1) << "a new text needs no decoding";
@@ -84,7 +81,7 @@ TEST_F(Watching, foreignPictureIsFollowedWithoutDecodingItAgain)
 
 TEST_F(Watching, unreadablePictureLeavesThePlainIcon)
 {
-    start(world.home.write(QStringLiteral("else/bad.jpg"), "no picture"));
+    start(world.home.write(u"else/bad.jpg"_s, "no picture"));
     EXPECT_TRUE(cell.imageView().isNull());
     EXPECT_EQ(tileCorner(), QColor(Qt::yellow));
     const auto loads = world.images.loads.size();
@@ -96,7 +93,7 @@ TEST_F(Watching, folderOfTheDesktopItself)
 {
     start(moon);
     const auto tiles = world.tiles.size();
-    world.show(QStringLiteral("/usr/share/pictures/"));
+    world.show(u"/usr/share/pictures/"_s);
     world.run(60);
     EXPECT_EQ(world.desktop->currentDesktopPath(), u"/usr/share/pictures/");
     EXPECT_EQ(cell.imageView(), cell.images().prefs);
@@ -126,9 +123,9 @@ TEST_F(Watching, allSpacesPutsThePictureBack)
     EXPECT_EQ(world.shownOn(), moon);
 
     std::swap(world.pictures.all[0].isMain, world.pictures.all[1].isMain);
-    world.show(sun, QStringLiteral("B"));
+    world.show(sun, u"B"_s);
     world.run(1);
-    EXPECT_EQ(world.shownOn(QStringLiteral("B")), sun) << "that screen was not set";
+    EXPECT_EQ(world.shownOn(u"B"_s), sun) << "that screen was not set";
     EXPECT_EQ(cell.picPath(), sun);
 }
 
@@ -161,7 +158,7 @@ TEST_F(Watching, waitsWhileTheDesktopTakesAPicture)
 
 TEST_F(Watching, tenThousandLooksLeaveNothingInMemory)
 {
-    const QString foreign = world.home.write(QStringLiteral("else/my_cat.jpg"), "IMG");
+    const QString foreign = world.home.write(u"else/my_cat.jpg"_s, "IMG");
     start(moon);
     for (const QString &shown : {moon, foreign, world.home.path() + u'/'}) {
         SCOPED_TRACE(qPrintable(shown));
@@ -181,25 +178,24 @@ TEST_F(Watching, tenThousandLooksLeaveNothingInMemory)
 TEST_F(Watching, commandsOfTheCells)
 {
     start(moon);
-    ThumbView &grid = world.cell(QStringLiteral("sky"), QStringLiteral("star.jpg"));
+    ThumbView &grid = world.cell(u"sky"_s, u"star.jpg"_s);
     world.desktop->setAsDesktop(grid, 2);
     world.desktop->showInFinder(grid);
     world.deliver();
     EXPECT_EQ(world.shownOn().section(u'/', -1), u"star.jpg");
     grid.setThumbPath(ThumbView::deletedMark());
     world.desktop->setAsDesktop(grid, 1);
-    EXPECT_EQ(world.others, QStringList{QStringLiteral("reveal star.jpg")});
+    EXPECT_EQ(world.others, QStringList{u"reveal star.jpg"_s});
     world.desktop->setAsDesktop(grid, 2);
-    grid.setPicPath(QStringLiteral("http://site/gone.jpg"));
+    grid.setPicPath(u"http://site/gone.jpg"_s);
     world.desktop->showInFinder(grid);
     world.desktop->showDesktopInfo();
     EXPECT_EQ(world.others,
-              (QStringList{QStringLiteral("reveal star.jpg"), QStringLiteral("reload"),
-                           QStringLiteral("activate"), QStringLiteral("large 99")}));
+              (QStringList{u"reveal star.jpg"_s, u"reload"_s, u"activate"_s, u"large 99"_s}));
 
     world.desktop->showDesktopPrefs();
     EXPECT_TRUE(world.alerts.shown.isEmpty());
-    world.scriptError = QStringLiteral("nothing found");
+    world.scriptError = u"nothing found"_s;
     world.desktop->showDesktopPrefs();
     ASSERT_EQ(world.alerts.shown.size(), 1);
     EXPECT_EQ(world.alerts.shown[0].title, u"Error opening System Preferences");
@@ -207,5 +203,3 @@ TEST_F(Watching, commandsOfTheCells)
 }
 
 } // namespace
-
-} // namespace moravel::testing

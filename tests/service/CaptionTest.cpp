@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using namespace testing;
 
 struct Window : LargePicPort
 {
@@ -47,7 +43,7 @@ protected:
 
     static ThumbView &added(World &to)
     {
-        to.addSources({QStringLiteral("A")});
+        to.addSources({u"A"_s});
         return to.cell(0);
     }
 
@@ -68,16 +64,13 @@ TEST_F(CaptionLookUp, TakesWhatTheServiceSays)
         QString info;
         QString storedInfo;
     } rows[] = {
-        {{{}, 500}, before, QStringLiteral("NEW"), QStringLiteral("Info A-7-4-2011")},
-        {{"\xff\xfe\nx"}, before, QStringLiteral("NEW"), QStringLiteral("Info A-7-4-2011")},
+        {{{}, 500}, before, u"NEW"_s, u"Info A-7-4-2011"_s},
+        {{"\xff\xfe\nx"}, before, u"NEW"_s, u"Info A-7-4-2011"_s},
         {{" NEW_CAPTION\nText  of\r it \nmore "},
-         QStringLiteral("New Caption"),
-         QStringLiteral("Text  of\r it "),
-         QStringLiteral("Text of it ")},
-        {{"One line"},
-         QStringLiteral("One line"),
-         QStringLiteral("NEW"),
-         QStringLiteral("Text of it ")},
+         u"New Caption"_s,
+         u"Text  of\r it "_s,
+         u"Text of it "_s},
+        {{"One line"}, u"One line"_s, u"NEW"_s, u"Text of it "_s},
     };
 
     for (const auto &row : rows) {
@@ -85,30 +78,29 @@ TEST_F(CaptionLookUp, TakesWhatTheServiceSays)
         window.calls.clear();
         refresh().implementRefreshCaption(cell);
         refresh().implementRefreshCaption(cell); // once more while it looks: nothing
-        EXPECT_EQ(cell.captionField(), QStringLiteral("Looking up caption..."));
-        EXPECT_EQ(window.calls, QStringLiteral("l"));
+        EXPECT_EQ(cell.captionField(), u"Looking up caption..."_s);
+        EXPECT_EQ(window.calls, u"l"_s);
         world.run(0.9);
         EXPECT_TRUE(world.http.requests.isEmpty()) << "the notice is shown first";
         world.run(0.2);
-        EXPECT_EQ(
-            world.http.requests.value(0).url.toString(),
-            QStringLiteral("http://service/potd/defs/moravel.irev?option=captionPlusText&source=A"
-                           "&date=7/4/2011&refresh=true"));
+        EXPECT_EQ(world.http.requests.value(0).url.toString(),
+                  u"http://service/potd/defs/moravel.irev?option=captionPlusText&source=A"
+                  "&date=7/4/2011&refresh=true"_s);
         EXPECT_EQ(cell.captionField(), row.label);
         EXPECT_EQ(cell.infoString(), row.info);
-        EXPECT_EQ(world.records().value(0).section(u'\t', 6), row.storedInfo);
-        EXPECT_EQ(window.calls, QStringLiteral("ls"));
+        EXPECT_EQ(world.lines().value(0).section(u'\t', 6), row.storedInfo);
+        EXPECT_EQ(window.calls, u"ls"_s);
         EXPECT_EQ(world.http.requests.size(), 1);
         world.http.requests.clear();
     }
-    EXPECT_EQ(world.records().value(0).section(u'\t', 5, 5), QStringLiteral("One line"));
+    EXPECT_EQ(world.lines().value(0).section(u'\t', 5, 5), u"One line"_s);
 }
 
 TEST_F(CaptionLookUp, IsForThePictureThatItBeganWith)
 {
     window.visible = false;
     refresh().implementRefreshCaption(cell);
-    cell.showDate(QStringLiteral("July 3, 2011"));
+    cell.showDate(u"July 3, 2011"_s);
     world.run(2);
     EXPECT_TRUE(world.http.requests.isEmpty());
     EXPECT_EQ(window.calls, QString());
@@ -120,4 +112,3 @@ TEST_F(CaptionLookUp, IsForThePictureThatItBeganWith)
 }
 
 } // namespace
-} // namespace moravel

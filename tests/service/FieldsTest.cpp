@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What answers say, and how requests are written: pure functions.
+#include "support/Test.h"
+
 #include "service/ConnectionQueue.h"
 #include "service/DownloadTexts.h"
 #include "service/PictureFields.h"
 #include "service/ServiceUrls.h"
 #include "service/SourceList.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
 QStringList lines(const char *text)
@@ -18,11 +17,7 @@ QStringList lines(const char *text)
 
 TEST(SufficientData, rules)
 {
-    const struct
-    {
-        const char *text;
-        bool good;
-    } cases[] = {
+    const Table<const char *, bool> cases{
         {"p\nc\nt\nl\n\n\ni", true},
         {"p\nc\nt\nl\nhttp://full\n1,2,3\ni", true},
         {"p\nc\nt\nl\n\n\ni\nmore\nlines", true},
@@ -38,11 +33,8 @@ TEST(SufficientData, rules)
         {"p\nc\nt\nl\nftp://full\n\ni", false},
         {"p\nc\nt\nl\n /relative\n\ni", false},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.text);
-        EXPECT_EQ(sufficientData(lines(c.text)), c.good);
-    }
+    for (const auto &[text, good] : cases)
+        EXPECT_EQ(sufficientData(lines(text)), good) << text;
 }
 
 TEST(PictureLink, fullSizeUnlessTooHeavy)
@@ -64,69 +56,54 @@ TEST(PictureLink, fullSizeUnlessTooHeavy)
         {"1,2, 3.1 ,9", "http://full", "normal"},
     };
 
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.values);
-        EXPECT_EQ(chosenPictureLink({QStringLiteral("p"), QStringLiteral("c"), QStringLiteral("t"),
-                                     QStringLiteral("normal"), QString::fromLatin1(c.full),
-                                     QString::fromLatin1(c.values), QStringLiteral("i")}),
-                  QString::fromLatin1(c.chosen));
-    }
+    for (const auto &c : cases)
+        EXPECT_EQ(
+            chosenPictureLink({u"p"_s, u"c"_s, u"t"_s, u"normal"_s, QString::fromLatin1(c.full),
+                               QString::fromLatin1(c.values), u"i"_s}),
+            QString::fromLatin1(c.chosen))
+            << c.values;
 }
 
 TEST(InfoText, pairsOfSpacesGo)
 {
-    EXPECT_EQ(cleanedInfoText(QStringLiteral("A  B   C")), QStringLiteral("AB C"));
-    EXPECT_EQ(cleanedInfoText(QStringLiteral("A    B")), QStringLiteral("AB"));
-    EXPECT_EQ(cleanedInfoText(QStringLiteral(" A\rB\nC ")), QStringLiteral("A B C"));
-    EXPECT_EQ(cleanedInfoText(QStringLiteral("A\r\nB")), QStringLiteral("AB"));
+    EXPECT_EQ(cleanedInfoText(u"A  B   C"_s), u"AB C"_s);
+    EXPECT_EQ(cleanedInfoText(u"A    B"_s), u"AB"_s);
+    EXPECT_EQ(cleanedInfoText(u" A\rB\nC "_s), u"A B C"_s);
+    EXPECT_EQ(cleanedInfoText(u"A\r\nB"_s), u"AB"_s);
 }
 
 TEST(Requests, addresses)
 {
-    const ServiceUrls urls(QStringLiteral("http://host/base"));
-    const QString s = QStringLiteral("Wiki");
-    const QString day = QStringLiteral("7/4/2011");
-    EXPECT_EQ(urls.sources(), QStringLiteral("http://host/base/defs/getSources.irev"));
-    EXPECT_EQ(urls.all(s, day),
-              QStringLiteral(
-                  "http://host/base/defs/moravel.irev?option=all&source=Wiki&date=7%2F4%2F2011"));
-    EXPECT_EQ(urls.refreshAll(s, day), urls.all(s, day) + QStringLiteral("&refresh=true"));
-    const QString look =
-        QStringLiteral("http://host/base/defs/moravel.irev?option=%1&source=Wiki&date=7/4/2011");
-    EXPECT_EQ(urls.parent(s, day), look.arg(QStringLiteral("parent")));
-    EXPECT_EQ(urls.thumb(s, day), look.arg(QStringLiteral("thumb")));
-    EXPECT_EQ(urls.captionPlusText(s, day),
-              look.arg(QStringLiteral("captionPlusText")) + QStringLiteral("&refresh=true"));
+    // The others are seen where they are sent.
+    const ServiceUrls urls(u"http://host/base"_s);
+    const QString all = urls.all(u"Wiki"_s, u"7/4/2011"_s);
+    EXPECT_EQ(urls.refreshAll(u"Wiki"_s, u"7/4/2011"_s), all + u"&refresh=true"_s);
+    EXPECT_EQ(urls.parent(u"Wiki"_s, u"7/4/2011"_s),
+              u"http://host/base/defs/moravel.irev?option=parent&source=Wiki&date=7/4/2011"_s);
 }
 
 TEST(Requests, queryBecomesTheBody)
 {
-    const struct
-    {
-        const char *url;
-        const char *target;
-        const char *body;
-    } cases[] = {
+    const Table<const char *, const char *, const char *> cases{
         {"http://h/defs/moravel.irev?option=all&source=S&date=7%2F4%2F2011",
          "http://h/defs/moravel.irev", "option=all&source=S&date=7%2F4%2F2011"},
         {"http://h/defs/moravel.irev", "http://h/defs/moravel.ire", ""},
         {"http://h/x?source=\xC3\xA9", "http://h/x", "source=?"},
         {"http://h/a?b", "http://h/a", "b"},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.url);
-        const FormPost post = formPost(QString::fromUtf8(c.url));
-        EXPECT_EQ(post.target, QString::fromUtf8(c.target));
-        EXPECT_EQ(post.body, QByteArray(c.body));
+    for (const auto &[url, target, body] : cases) {
+        SCOPED_TRACE(url);
+        const FormPost post = formPost(QString::fromUtf8(url));
+        EXPECT_EQ(post.target, QString::fromUtf8(target));
+        EXPECT_EQ(post.body, QByteArray(body));
     }
 }
 
 TEST(Answers, areCleaned)
 {
-    EXPECT_EQ(cleanedAnswer("\r\n a\nb \n"), QStringLiteral("a\nb"));
-    EXPECT_EQ(cleanedAnswer("12\\%"), QStringLiteral("12%"));
-    EXPECT_EQ(cleanedAnswer("caf\xC3\xA9"), QStringLiteral("café"));
+    EXPECT_EQ(cleanedAnswer("\r\n a\nb \n"), u"a\nb"_s);
+    EXPECT_EQ(cleanedAnswer("12\\%"), u"12%"_s);
+    EXPECT_EQ(cleanedAnswer("caf\xC3\xA9"), u"café"_s);
     EXPECT_EQ(cleanedAnswer("caf\xE9"), QString());
     EXPECT_EQ(cleanedAnswer(" \n\t "), QString());
 }
@@ -135,10 +112,9 @@ TEST(SourcesList, reading)
 {
     const auto names = [](const char *text) { return parseSources(QString::fromUtf8(text)); };
     EXPECT_EQ(names("Long B\tb\textra\nLong a\tA\n"),
-              (SourceNames{{QStringLiteral("A"), QStringLiteral("Long a")},
-                           {QStringLiteral("b"), QStringLiteral("Long B")}}));
+              (SourceNames{{u"A"_s, u"Long a"_s}, {u"b"_s, u"Long B"_s}}));
     EXPECT_EQ(names("One\to\nno tab\nTwo\tt").size(), 1);
-    EXPECT_EQ(names("One\tx\nTwo\tx").value(QStringLiteral("x")), QStringLiteral("Two"));
+    EXPECT_EQ(names("One\tx\nTwo\tx").value(u"x"_s), u"Two"_s);
     EXPECT_TRUE(names("").isEmpty());
     QByteArray many;
     for (int i = 0; i < 5000; ++i)
@@ -148,39 +124,25 @@ TEST(SourcesList, reading)
 
 TEST(DownloadTexts, kilobytes)
 {
-    const QString s = QStringLiteral("Astro");
+    const QString s = u"Astro"_s;
 
-    const struct
-    {
-        DownloadProgress progress;
-        const char *status;
-        const char *window;
-    } cases[] = {
-        {{s, 0, 1'500'000},
-         "Downloading pic from Astro: 0 of 1464 KB",
-         "Downloading pic from Astro: 0 of 1464 KB"},
-        {{s, 1'000'000, 1'500'000},
-         "Downloading pic from Astro: 976 of 1464 KB",
-         "Downloading pic from Astro: 976 of 1464 KB"},
-        {{s, 1'500'000, 1'500'000},
-         "Downloading pic from Astro: 1464 of 1464 KB",
-         "Saving pic from Astro..."},
-        {{s, 10, 1023}, "Downloading pic from Astro: 0 of 0 KB", "Saving pic from Astro..."},
-        {{s, 9'000'000, 2048}, "Downloading pic from Astro: 2 of 2 KB", "Saving pic from Astro..."},
-        {{{}, 0, -1}, "Downloading pic from (null): 0 of 0 KB", "Saving pic from (null)..."},
-        {{QStringLiteral("%2"), 0, 4096},
-         "Downloading pic from %2: 0 of 4 KB",
-         "Downloading pic from %2: 0 of 4 KB"},
+    const QString downloading = u"Downloading pic from "_s;
+    const Table<DownloadProgress, QString, bool> cases{
+        {{s, 0, 1'500'000}, u"Astro: 0 of 1464 KB"_s, false},
+        {{s, 1'000'000, 1'500'000}, u"Astro: 976 of 1464 KB"_s, false},
+        {{s, 1'500'000, 1'500'000}, u"Astro: 1464 of 1464 KB"_s, true},
+        {{s, 10, 1023}, u"Astro: 0 of 0 KB"_s, true},
+        {{s, 9'000'000, 2048}, u"Astro: 2 of 2 KB"_s, true},
+        {{{}, 0, -1}, u"(null): 0 of 0 KB"_s, true},
+        {{u"%2"_s, 0, 4096}, u"%2: 0 of 4 KB"_s, false},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.status);
-        EXPECT_EQ(downloadStatusText(c.progress), QString::fromLatin1(c.status));
-        EXPECT_EQ(downloadWindowText(c.progress), QString::fromLatin1(c.window));
+    for (const auto &[progress, text, isSaving] : cases) {
+        const QString saving = u"Saving pic from "_s + text.section(u':', 0, 0) + u"..."_s;
+        EXPECT_EQ(downloadStatusText(progress), downloading + text);
+        EXPECT_EQ(downloadWindowText(progress), isSaving ? saving : downloading + text);
     }
     EXPECT_NEAR(*(DownloadProgress{s, 1'000'000, 1'500'000}.percent()), 66.67F, 0.01F);
     EXPECT_FALSE((DownloadProgress{s, 5, -1}.percent()));
 }
 
 } // namespace
-} // namespace moravel

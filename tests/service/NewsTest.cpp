@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using testing::FakeHttp;
-using testing::TempHome;
-using testing::World;
 
 class NewsTest : public ::testing::Test
 {
@@ -36,7 +30,7 @@ protected:
         w.service->news().showNews();
         w.run(1);
         EXPECT_FALSE(button);
-        return TempHome::read(w.home.path(QStringLiteral("data/Moravel/Moravel-News.txt")));
+        return TempHome::read(w.home.path(u"data/Moravel/Moravel-News.txt"_s));
     }
 
     World w;
@@ -53,13 +47,12 @@ TEST_F(NewsTest, unreadNewsShowTheButtonUntilTheyAreRead)
     EXPECT_EQ(w.http.requests.size() + nothing, 3);
     EXPECT_TRUE(load({"\n Hello\nAll \xC3\xBC well.\n\n"}));
     EXPECT_EQ(w.http.requests.last().url, // July 4, 2011, 9:30:02 in Berlin
-              QUrl(QStringLiteral("http://service/potd/defs/getNews.irev?timestamp=331457402")));
+              QUrl(u"http://service/potd/defs/getNews.irev?timestamp=331457402"_s));
     EXPECT_EQ(show(), "Hello\nAll \xC3\xBC well.");
-    EXPECT_EQ(sheets,
-              (QList<NewsSheet>{{QStringLiteral("Hello"), QString::fromUtf8("All ü well.")}}));
+    EXPECT_EQ(sheets, (QList<NewsSheet>{{u"Hello"_s, QString::fromUtf8("All ü well.")}}));
     EXPECT_FALSE(load({"Hello\nAll \xC3\xBC well.\n"}));
     for (const FakeHttp::Answer &bad :
-         {FakeHttp::Answer{{}, 500}, {{}, 200, -2, QStringLiteral("down")}, {"\xFF\xFE"}}) {
+         {FakeHttp::Answer{{}, 500}, {{}, 200, -2, u"down"_s}, {"\xFF\xFE"}}) {
         EXPECT_TRUE(load(bad));
         EXPECT_EQ(show(), "Hello\nAll \xC3\xBC well."); // so that these stay read
         EXPECT_EQ(sheets.last(), NewsSheet());
@@ -69,7 +62,7 @@ TEST_F(NewsTest, unreadNewsShowTheButtonUntilTheyAreRead)
 
 TEST_F(NewsTest, withoutAFolderTheyAreShownAndComeBack)
 {
-    w.home.write(QStringLiteral("data/Moravel"), "in the way");
+    w.home.write(u"data/Moravel"_s, "in the way");
     for (int i = 1; i < 3; ++i) {
         EXPECT_TRUE(load({"Hello"}));
         show();
@@ -80,17 +73,15 @@ TEST_F(NewsTest, withoutAFolderTheyAreShownAndComeBack)
 
 TEST(News, titleLeavesTheBody)
 {
-    EXPECT_EQ(newsSheet(QStringLiteral("One")), (NewsSheet{QStringLiteral("One"), {}}));
-    EXPECT_EQ(newsSheet(QStringLiteral("A\r\n\nB A C\n")),
-              (NewsSheet{QStringLiteral("A"), QStringLiteral("B  C")}));
+    EXPECT_EQ(newsSheet(u"One"_s), (NewsSheet{u"One"_s, {}}));
+    EXPECT_EQ(newsSheet(u"A\r\n\nB A C\n"_s), (NewsSheet{u"A"_s, u"B  C"_s}));
 }
 
 TEST(PageLookup, takesOneWebAddress)
 {
-    EXPECT_EQ(pageInAnswer(" https://p/1?a=b\r\n"), QStringLiteral("https://p/1?a=b"));
+    EXPECT_EQ(pageInAnswer(" https://p/1?a=b\r\n"), u"https://p/1?a=b"_s);
     for (const char *bad : {"", "javascript:x", "http://p/\xC3\xBC", "http://p q", "<p>\nhttp://p"})
         EXPECT_EQ(pageInAnswer(bad), QString()) << bad;
 }
 
 } // namespace
-} // namespace moravel

@@ -1,68 +1,61 @@
 // SPDX-License-Identifier: MIT
 // The road of a day's pictures: passes, queue, records, thumbnails and downloads together.
 #include "World.h"
+#include "support/Test.h"
 
-#include <QDir>
-
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
-using testing::FakeHttp;
-using testing::TempHome;
-using testing::World;
-
-const QStringList Three{QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")};
-const QString Hint = QStringLiteral("Double-click any thumbnail to set as desktop.");
+const QStringList Three{u"A"_s, u"B"_s, u"C"_s};
+const QString Hint = u"Double-click any thumbnail to set as desktop."_s;
 
 QString body(const QString &source, const QString &day)
 {
-    return QStringLiteral("option=all&source=%1&date=%2")
-        .arg(source, QString(day).replace(u'/', QLatin1String("%2F")));
+    return u"option=all&source=%1&date=%2"_s.arg(source, QString(day).replace(u'/', "%2F"_L1));
 }
 
-TEST(Pass, fillsEveryCellAndKeepsEverything)
+struct Pass : ::testing::Test
 {
+    Pass() { w.addSources(Three); }
+
     World w;
-    w.addSources(Three);
+};
+
+TEST_F(Pass, fillsEveryCellAndKeepsEverything)
+{
     w.startPass();
     for (int i = 0; i < 3; ++i) {
         const ThumbView &cell = w.cell(i);
-        EXPECT_EQ(cell.dateString(), QStringLiteral("July 4, 2011"));
-        EXPECT_EQ(cell.captionField(), QStringLiteral("Caption %1-7-4-2011").arg(Three[i]));
+        EXPECT_EQ(cell.dateString(), u"July 4, 2011"_s);
+        EXPECT_EQ(cell.captionField(), u"Caption %1-7-4-2011"_s.arg(Three[i]));
         EXPECT_EQ(cell.imageView().size(), QSize(4, 3));
         EXPECT_FALSE(cell.isSpinning());
-        const QString name = Three[i] + QStringLiteral("-7-4-2011.jpg");
+        const QString name = Three[i] + u"-7-4-2011.jpg"_s;
         EXPECT_EQ(TempHome::read(w.pictureFolder() + name), "IMG picture bytes");
-        EXPECT_EQ(TempHome::read(w.pictureFolder() + QLatin1String("thumbs/thumb-") + name),
+        EXPECT_EQ(TempHome::read(w.pictureFolder() + "thumbs/thumb-"_L1 + name),
                   "IMG picture bytes");
     }
-    EXPECT_EQ(w.records().size(), 3);
-    EXPECT_EQ(
-        w.records()[0],
-        QStringLiteral("20110704\tA\thttp://pic/thumb-A-7-4-2011.jpg\thttp://pic/A-7-4-2011.jpg\t"
-                       "http://page/A-7-4-2011\tCaption A-7-4-2011\tInfo A-7-4-2011"));
+    EXPECT_EQ(w.lines().size(), 3);
+    EXPECT_EQ(w.lines()[0],
+              u"20110704\tA\thttp://pic/thumb-A-7-4-2011.jpg\thttp://pic/A-7-4-2011.jpg\t"
+              "http://page/A-7-4-2011\tCaption A-7-4-2011\tInfo A-7-4-2011"_s);
     EXPECT_EQ(w.http.posts(),
-              (QStringList{body(Three[0], QStringLiteral("7/4/2011")),
-                           body(Three[1], QStringLiteral("7/4/2011")),
-                           body(Three[2], QStringLiteral("7/4/2011"))}));
+              (QStringList{body(Three[0], u"7/4/2011"_s), body(Three[1], u"7/4/2011"_s),
+                           body(Three[2], u"7/4/2011"_s)}));
     EXPECT_EQ(w.newPictures.size(), 3);
     EXPECT_EQ(w.newsChecks, 1);
     EXPECT_TRUE(w.alerts.shown.isEmpty());
-    EXPECT_TRUE(w.statuses.contains(QStringLiteral("Looking for new pic from Long B...")));
+    EXPECT_TRUE(w.statuses.contains(u"Looking for new pic from Long B..."_s));
     EXPECT_EQ(w.statuses.last(), Hint);
-    EXPECT_TRUE(QDir(w.pictureFolder())
-                    .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
-                    .isEmpty());
+    EXPECT_TRUE(
+        QDir(w.pictureFolder()).entryList({u"*.part"_s}, QDir::Files | QDir::Hidden).isEmpty());
 }
 
-TEST(Pass, oneRequestAtATimeHalfASecondApart)
+TEST(PassAlone, oneRequestAtATimeHalfASecondApart)
 {
     World w;
     QStringList names;
     for (int i = 10; i < 20; ++i)
-        names.append(QStringLiteral("S%1").arg(i));
+        names.append(u"S%1"_s.arg(i));
     w.addSources(names);
     QList<double> times;
     const QDateTime start = w.loop.now();
@@ -74,13 +67,11 @@ TEST(Pass, oneRequestAtATimeHalfASecondApart)
     ASSERT_EQ(times.size(), 10);
     for (int i = 1; i < 10; ++i)
         EXPECT_NEAR(times[i] - times[i - 1], 0.5, 0.051) << i;
-    EXPECT_EQ(w.records().size(), 10);
+    EXPECT_EQ(w.lines().size(), 10);
 }
 
-TEST(Pass, storedDaysNeedNoRequest)
+TEST_F(Pass, storedDaysNeedNoRequest)
 {
-    World w;
-    w.addSources(Three);
     w.startPass();
     const auto requests = w.http.requests.size();
     // Back a day and forth again: only the other day is asked for.
@@ -89,19 +80,18 @@ TEST(Pass, storedDaysNeedNoRequest)
     w.service->thumbPass().forgetLastDataCheck();
     w.startPass();
     EXPECT_EQ(w.http.posts().mid(3),
-              (QStringList{body(Three[0], QStringLiteral("7/3/2011")),
-                           body(Three[1], QStringLiteral("7/3/2011")),
-                           body(Three[2], QStringLiteral("7/3/2011"))}));
+              (QStringList{body(Three[0], u"7/3/2011"_s), body(Three[1], u"7/3/2011"_s),
+                           body(Three[2], u"7/3/2011"_s)}));
     const auto before = w.http.requests.size();
     EXPECT_EQ(before, requests * 2);
     w.picker.setDateValue(w.picker.maximumDate());
     w.service->thumbPass().forgetLastDataCheck();
     w.startPass();
     EXPECT_EQ(w.http.requests.size(), before);
-    EXPECT_EQ(w.cell(2).captionField(), QStringLiteral("Caption C-7-4-2011"));
+    EXPECT_EQ(w.cell(2).captionField(), u"Caption C-7-4-2011"_s);
 }
 
-TEST(Pass, rateLimitAndHourlyRepeat)
+TEST(PassAlone, rateLimitAndHourlyRepeat)
 {
     World w;
     w.addSources({Three[0]});
@@ -116,7 +106,7 @@ TEST(Pass, rateLimitAndHourlyRepeat)
     EXPECT_EQ(w.http.posts().size(), 1);
 }
 
-TEST(Pass, movesOnAtMidnightUnlessTheUserChoseADate)
+TEST(PassAlone, movesOnAtMidnightUnlessTheUserChoseADate)
 {
     for (const bool userChose : {false, true}) {
         World w(QDateTime(QDate(2011, 7, 4), QTime(23, 50)));
@@ -125,12 +115,11 @@ TEST(Pass, movesOnAtMidnightUnlessTheUserChoseADate)
         w.picker.userChangeDate = userChose;
         w.run(3610);
         EXPECT_EQ(w.picker.dateValue().date(), QDate(2011, 7, userChose ? 4 : 5));
-        EXPECT_EQ(w.cell(0).dateString(),
-                  userChose ? QStringLiteral("July 4, 2011") : QStringLiteral("July 5, 2011"));
+        EXPECT_EQ(w.cell(0).dateString(), userChose ? u"July 4, 2011"_s : u"July 5, 2011"_s);
     }
 }
 
-TEST(Pass, stepsBackAWeek)
+TEST(PassAlone, stepsBackAWeek)
 {
     const struct
     {
@@ -147,42 +136,39 @@ TEST(Pass, stepsBackAWeek)
         w.startPass(30);
         QStringList wanted;
         for (int back = 0; back <= c.lastDay; ++back)
-            wanted.append(body(Three[0],
-                               QLocale::c().toString(QDate(2011, 7, 4).addDays(-back),
-                                                     QStringLiteral("M/d/yyyy"))));
+            wanted.append(body(
+                Three[0], QLocale::c().toString(QDate(2011, 7, 4).addDays(-back), u"M/d/yyyy"_s)));
         EXPECT_EQ(w.http.posts(), wanted);
-        EXPECT_TRUE(w.records().isEmpty());
+        EXPECT_TRUE(w.lines().isEmpty());
         EXPECT_EQ(w.cell(0).imageView().size(), QSize(2, 2)); // the blank picture
         EXPECT_FALSE(w.cell(0).isSpinning());
     }
 }
 
-TEST(Pass, fallsBackToTheLastDayWithAPicture)
+TEST_F(Pass, fallsBackToTheLastDayWithAPicture)
 {
-    World w;
-    w.addSources(Three);
     w.data = [](const QString &source, const QString &day) {
         const bool has = source != u"B" || day == u"7/2/2011";
         return FakeHttp::Answer{has ? World::goodAnswer(source, day)
                                     : QByteArray("p\nNo caption\nt\nl\n\n\ni")};
     };
     w.startPass();
-    EXPECT_EQ(w.cell(1).dateString(), QStringLiteral("July 2, 2011"));
-    EXPECT_EQ(w.cell(2).captionField(), QStringLiteral("Caption C-7-4-2011"));
-    EXPECT_EQ(w.records().size(), 3);
+    EXPECT_EQ(w.cell(1).dateString(), u"July 2, 2011"_s);
+    EXPECT_EQ(w.cell(2).captionField(), u"Caption C-7-4-2011"_s);
+    EXPECT_EQ(w.lines().size(), 3);
 }
 
-TEST(Pass, serviceDownIsToldAndRetriedSooner)
+TEST(PassAlone, serviceDownIsToldAndRetriedSooner)
 {
     World w;
     w.addSources({Three[0]});
     bool down = true;
     w.data = [&](const QString &source, const QString &day) {
-        return down ? FakeHttp::Answer{{}, 500, -2, QStringLiteral("Connection refused")}
+        return down ? FakeHttp::Answer{{}, 500, -2, u"Connection refused"_s}
                     : FakeHttp::Answer{World::goodAnswer(source, day)};
     };
     w.startPass(30);
-    EXPECT_TRUE(w.statuses.contains(QStringLiteral("Connection refused")));
+    EXPECT_TRUE(w.statuses.contains(u"Connection refused"_s));
     EXPECT_EQ(w.http.posts().size(), 7);
     EXPECT_EQ(w.http.requests.size(), 7); // no large pictures after a failure
     down = false;
@@ -192,24 +178,20 @@ TEST(Pass, serviceDownIsToldAndRetriedSooner)
     w.run(120);
     w.service->thumbPass().loadNextThumb();
     w.run(10);
-    EXPECT_EQ(w.cell(0).captionField(), QStringLiteral("Caption A-7-4-2011"));
-    EXPECT_EQ(w.newPictures, QStringList{QStringLiteral("A A-7-4-2011.jpg")});
+    EXPECT_EQ(w.cell(0).captionField(), u"Caption A-7-4-2011"_s);
+    EXPECT_EQ(w.newPictures, QStringList{u"A A-7-4-2011.jpg"_s});
 }
 
-TEST(Pass, emptyAnswerLeavesTheCellWaiting)
+TEST_F(Pass, emptyAnswerLeavesTheCellWaiting)
 {
-    World w;
-    w.addSources(Three);
     w.data = [](const QString &, const QString &) { return FakeHttp::Answer{" \n "}; };
     w.startPass(20);
     EXPECT_EQ(w.http.posts().size(), 1);
-    EXPECT_EQ(w.cell(0).captionField(), QStringLiteral("Looking for new pic..."));
+    EXPECT_EQ(w.cell(0).captionField(), u"Looking for new pic..."_s);
 }
 
-TEST(Pass, slowThumbHoldsTheSequenceButNotTheUser)
+TEST_F(Pass, slowThumbHoldsTheSequenceButNotTheUser)
 {
-    World w;
-    w.addSources(Three);
     bool open = false;
     w.file = [&](const QString &link) -> std::optional<FakeHttp::Answer> {
         if (link.contains(u"thumb-A") && !open)
@@ -220,24 +202,22 @@ TEST(Pass, slowThumbHoldsTheSequenceButNotTheUser)
     EXPECT_TRUE(w.loop.isHeld());
     EXPECT_TRUE(w.cell(0).isSpinning());
     EXPECT_EQ(w.http.posts().size(), 1);
-    EXPECT_TRUE(w.records().isEmpty()); // shown first, kept then
+    EXPECT_TRUE(w.lines().isEmpty()); // shown first, kept then
     open = true;
     w.run(10);
     EXPECT_FALSE(w.loop.isHeld());
-    EXPECT_EQ(w.records().size(), 3);
+    EXPECT_EQ(w.lines().size(), 3);
 }
 
-TEST(Pass, badThumbShowsTheLargePictureOrTheBlank)
+TEST_F(Pass, badThumbShowsTheLargePictureOrTheBlank)
 {
-    World w;
-    w.addSources(Three);
     w.file = [](const QString &link) {
         return link.contains(u"thumb-") ? FakeHttp::Answer{"<html>404</html>"}
                                         : FakeHttp::Answer{"IMG"};
     };
     w.startPass();
     EXPECT_EQ(w.cell(0).imageView().size(), QSize(2, 2));
-    EXPECT_TRUE(QDir(w.pictureFolder() + QStringLiteral("thumbs")).isEmpty());
+    EXPECT_TRUE(QDir(w.pictureFolder() + u"thumbs"_s).isEmpty());
     // The large picture is there by now.
     w.cell(0).showDate({});
     w.service->thumbPass().forgetLastDataCheck();
@@ -245,86 +225,68 @@ TEST(Pass, badThumbShowsTheLargePictureOrTheBlank)
     EXPECT_EQ(w.cell(0).imageView().size(), QSize(4, 3));
 }
 
-TEST(Pass, refreshDropsTheRecordAndAsksAnew)
+TEST_F(Pass, refreshDropsTheRecordAndAsksAnew)
 {
-    World w;
-    w.addSources(Three);
     w.startPass();
     w.data = [](const QString &source, const QString &day) {
         return FakeHttp::Answer{World::goodAnswer(source, day).replace("Caption", "New caption")};
     };
     w.service->refreshDataForThumb(w.cell(1));
-    EXPECT_EQ(w.records().size(), 2);
+    EXPECT_EQ(w.lines().size(), 2);
     EXPECT_TRUE(w.cell(1).isSpinning());
     EXPECT_TRUE(w.cell(1).picPath().isEmpty());
     w.run(10);
-    EXPECT_EQ(w.http.posts().last(),
-              body(Three[1], QStringLiteral("7/4/2011")) + QStringLiteral("&refresh=true"));
-    EXPECT_EQ(w.cell(1).captionField(), QStringLiteral("New caption B-7-4-2011"));
-    EXPECT_EQ(w.records().size(), 3);
+    EXPECT_EQ(w.http.posts().last(), body(Three[1], u"7/4/2011"_s) + u"&refresh=true"_s);
+    EXPECT_EQ(w.cell(1).captionField(), u"New caption B-7-4-2011"_s);
+    EXPECT_EQ(w.lines().size(), 3);
 }
 
-TEST(Pass, deletedAndLinklessRecordsComeFromTheStore)
+TEST(PassAlone, deletedAndLinklessRecordsComeFromTheStore)
 {
     World w;
-    w.home.write(QStringLiteral("data/Moravel/Moravel2.txt"),
+    w.home.write(u"data/Moravel/Moravel2.txt"_s,
                  "20110704\tA\tDELETED\thttp://pic/a.jpg\thttp://page\tGone\t\n"
                  "20110704\tB\t\thttp://pic/b.jpg\thttp://page\tNo thumb\t\n");
     w.addSources(Three.mid(0, 2));
     w.startPass();
-    EXPECT_EQ(w.cell(0).captionField(), QStringLiteral("Deleted.\n\nDouble-click to un-delete."));
+    EXPECT_EQ(w.cell(0).captionField(), u"Deleted.\n\nDouble-click to un-delete."_s);
     EXPECT_EQ(w.cell(0).thumbPath(), ThumbView::deletedMark());
-    EXPECT_EQ(w.cell(1).thumbPath(), QStringLiteral("http://pic/b.jpg"));
+    EXPECT_EQ(w.cell(1).thumbPath(), u"http://pic/b.jpg"_s);
     EXPECT_TRUE(w.http.posts().isEmpty());
-    EXPECT_EQ(w.newPictures, QStringList{QStringLiteral("B b.jpg")});
+    EXPECT_EQ(w.newPictures, QStringList{u"B b.jpg"_s});
 }
 
 TEST(Downloads, nothingHalfAndNothingStrange)
 {
-    const struct
-    {
-        const char *link;
-        FakeHttp::Answer answer;
-        const char *file; // what then lies in the Picture folder
-    } cases[] = {
-        {"http://pic/x.jpg", {"IMG"}, "x.jpg"},
-        {"http://pic/view", {"IMG"}, "view.jpg"},
-        {"http://pic/x.JPG", {"IMG"}, "x.JPG"},
-        {"http://one/http://pic/y.png", {"IMG"}, "y.png"},
-        {"http://pic/x.html", {"IMG"}, ""},
-        {"http://pic/x.jpg", {"<html>"}, ""},
-        {"http://pic/x.jpg", {"IMG", 404}, ""},
-        {"http://pic/x.jpg", {{}, 200, -2, QStringLiteral("cut")}, ""},
-        {"http://pic/..", {"IMG"}, ""},
-        {"http://pic/%2e%2e", {"IMG"}, ""},
-        {"http://pic/.hidden.jpg", {"IMG"}, ""},
-        {"http://pic/a%2Fb.jpg", {"IMG"}, ""},
-        {"http://pic/", {"IMG"}, ""},
+    // file: what then lies in the Picture folder
+    const Table<const char *, FakeHttp::Answer, const char *> cases{
+        {"http://pic/x.jpg", {"IMG"}, "x.jpg"}, {"http://pic/view", {"IMG"}, "view.jpg"},
+        {"http://pic/x.JPG", {"IMG"}, "x.JPG"}, {"http://one/http://pic/y.png", {"IMG"}, "y.png"},
+        {"http://pic/x.html", {"IMG"}, ""},     {"http://pic/x.jpg", {"<html>"}, ""},
+        {"http://pic/x.jpg", {"IMG", 404}, ""}, {"http://pic/x.jpg", {{}, 200, -2, u"cut"_s}, ""},
+        {"http://pic/%2e%2e", {"IMG"}, ""},     {"http://pic/", {"IMG"}, ""},
         {"file:///etc/x.jpg", {"IMG"}, ""},
     };
-
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.link);
+    for (const auto &[link, answer, file] : cases) {
+        SCOPED_TRACE(link);
         World w;
         w.addSources({Three[0]});
-        w.data = [&](const QString &, const QString &) {
-            return FakeHttp::Answer{QByteArray("http://page\nCaption\nhttp://pic/t.jpg\n") + c.link
-                                    + "\n\n\nInfo"};
+        const QByteArray data = "http://page\nCaption\nhttp://pic/t.jpg\n";
+        w.data = [all = data + link + "\n\n\nInfo"](const QString &, const QString &) {
+            return FakeHttp::Answer{all};
         };
-        w.file = [&](const QString &link) {
-            return link.contains(u"t.jpg") ? FakeHttp::Answer{"IMG"} : c.answer;
+        w.file = [&answer = answer](const QString &url) {
+            return url.contains(u"t.jpg") ? FakeHttp::Answer{"IMG"} : answer;
         };
         w.startPass(30);
         const QStringList files = QDir(w.pictureFolder()).entryList(QDir::Files | QDir::Hidden);
-        EXPECT_EQ(files, *c.file ? QStringList{QString::fromLatin1(c.file)} : QStringList());
+        EXPECT_EQ(files, *file ? QStringList{QString::fromLatin1(file)} : QStringList());
         EXPECT_EQ(w.statuses.last(), Hint);
     }
 }
 
-TEST(Downloads, hiddenCellsAreSkippedAndQuittingLeavesNothing)
+TEST_F(Pass, hiddenCellsAreSkippedAndQuittingLeavesNothing)
 {
-    World w;
-    w.addSources(Three);
     w.cell(0).setHidden(true);
     w.file = [](const QString &link) -> std::optional<FakeHttp::Answer> {
         if (!link.contains(u"thumb-"))
@@ -333,11 +295,8 @@ TEST(Downloads, hiddenCellsAreSkippedAndQuittingLeavesNothing)
     };
     w.startPass(30);
     EXPECT_TRUE(w.service->downloads().isActive());
-    EXPECT_EQ(w.service->downloads().downloadPath(),
-              w.pictureFolder() + QStringLiteral("C-7-4-2011.jpg"));
-    EXPECT_EQ(QDir(w.pictureFolder())
-                  .entryList({QStringLiteral("*.part")}, QDir::Files | QDir::Hidden)
-                  .size(),
+    EXPECT_EQ(w.service->downloads().downloadPath(), w.pictureFolder() + u"C-7-4-2011.jpg"_s);
+    EXPECT_EQ(QDir(w.pictureFolder()).entryList({u"*.part"_s}, QDir::Files | QDir::Hidden).size(),
               2);
     w.service->downloads().cancelAll();
     EXPECT_TRUE(QDir(w.pictureFolder()).entryList(QDir::Files | QDir::Hidden).isEmpty());
@@ -360,9 +319,7 @@ TEST(Sources, keptForAStartWithoutNetwork)
     EXPECT_EQ(ask({"\xFF\xFE\t\xFF"}).size(), 2);
     EXPECT_EQ(ask({"Long C\tC"}).size(), 1);
     EXPECT_EQ(done, 6);
-    EXPECT_EQ(TempHome::read(w.home.path(QStringLiteral("data/Moravel/Moravel-Sources.txt"))),
-              "Long C\tC");
+    EXPECT_EQ(TempHome::read(w.home.path(u"data/Moravel/Moravel-Sources.txt"_s)), "Long C\tC");
 }
 
 } // namespace
-} // namespace moravel

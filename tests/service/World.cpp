@@ -1,25 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
 
-#include "support/HomeFiles.h"
-
 #include <QUrlQuery>
 
 namespace moravel::testing {
 
-World::World(const QDateTime &start)
-    : loop(start)
-    , files(std::make_unique<HomeFiles>(home))
-    , platform{loop, http, defaults, *files, alerts, images, random}
-    , cells({images.resource({}), images.resource({}), images.resource({})}, {})
-    , folders(*files, alerts)
-    , legacy(folders, *files, dates, names)
-    , records_(folders, *files, alerts, dates,
-               [this](const QString &name) { return legacy.oldStoredDataForFile(name); })
-    , updates(records_, legacy, dates)
-    , links(folders, *files)
+World::World(const QDateTime &start) : PlayedStore(start)
 {
-    cells.createSpecialCells(loop.now());
     picker.setMaximumDate(loop.now());
     picker.setDateValue(loop.now());
     ports.showStatus = [this](const QString &text) { statuses.append(text); };
@@ -34,7 +21,7 @@ World::World(const QDateTime &start)
     http.answer = [this](const HttpRequest &request) { return serve(request); };
     service =
         std::make_unique<PictureService>(ServiceContext{platform, dates, picker, cells, names,
-                                                        folders, records_, updates, links, ports},
+                                                        folders, records, updates, links, ports},
                                          QStringLiteral("http://service/potd"));
 }
 
@@ -58,7 +45,7 @@ void World::run(double seconds)
     }
 }
 
-QStringList World::records() const
+QStringList World::lines() const
 {
     return QString::fromUtf8(TempHome::read(dataFile())).split(u'\n', Qt::SkipEmptyParts);
 }

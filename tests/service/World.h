@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/FakeHttp.h"
-#include "support/FakeImages.h"
-#include "support/FakeMainLoop.h"
-#include "support/FakePlatform.h"
-#include "support/TempHome.h"
+#include "support/PlayedStore.h"
 
-#include "platform/linux/PosixFiles.h"
 #include "service/PictureService.h"
-#include "store/LegacyCaptions.h"
 
 namespace moravel::testing {
 
 /// The whole service client on a real disk, a virtual clock and a service that the test plays.
-class World
+class World : public PlayedStore
 {
 public:
     explicit World(const QDateTime &start = QDateTime(QDate(2011, 7, 4), QTime(9, 30)));
@@ -30,11 +24,10 @@ public:
 
     ThumbView &cell(int index) { return cells.at(index); }
 
-    QString pictureFolder() const { return home.path(QStringLiteral("Pictures/Moravel/")); }
-
     QString dataFile() const { return home.path(QStringLiteral("data/Moravel/Moravel2.txt")); }
 
-    QStringList records() const;
+    /// The stored records.
+    QStringList lines() const;
 
     /// A sufficient answer for a source and Short date ("7/4/2011").
     static QByteArray goodAnswer(const QString &source, const QString &day);
@@ -42,24 +35,7 @@ public:
     /// Answers like a service that has a picture for every source and day; tests replace parts of it.
     std::optional<FakeHttp::Answer> serve(const HttpRequest &request);
 
-    TempHome home;
-    FakeMainLoop loop;
-    FakeHttp http;
-    FakeDefaults defaults;
-    std::unique_ptr<Files> files;
-    FakeAlerts alerts;
-    FakeImages images;
-    FakeRandom random;
-    Platform platform;
-    Dates dates;
     DatePicker picker;
-    ThumbCells cells;
-    SourceNames names;
-    Folders folders;
-    LegacyCaptions legacy;
-    RecordFile records_;
-    RecordUpdates updates;
-    PictureLinks links;
     QStringList statuses;
     QStringList newPictures;
     int newsChecks = 0;
