@@ -9,6 +9,8 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <functional>
+#include <future>
 
 namespace moravel {
 
@@ -16,6 +18,20 @@ namespace {
 
 constexpr int TitlePixels = 12; ///< Points of the screen.
 constexpr qsizetype MostAdded = 10'000; ///< Files of one drop.
+
+QSet<QString> filesIn(const Files &files, const QString &folder)
+{
+    QSet<QString> paths;
+    const auto names = files.names(folder);
+    if (!names) {
+        qCInfo(lcBrowser) << "cannot list" << names.error().path << names.error().description;
+        return paths;
+    }
+    paths.reserve(names->size());
+    for (const QString &name : *names)
+        paths.insert(folder + name);
+    return paths;
+}
 
 /// The files that a drop means, in name order within a folder. For worker threads: it may be a slow disk.
 QStringList filesOf(const QStringList &paths)
@@ -127,15 +143,13 @@ void Browser::assembleBrowserData()
         return images.isImageExtension(extension);
     };
     const auto read = [work, &files = m_context.files] {
+        auto listing =
+            std::async(std::launch::async, filesIn, std::cref(files), work->texts.folder);
         if (work->records)
             work->texts.records = work->records->bytes();
-        if (const auto names = files.list(work->texts.folder))
-            work->texts.names = {names->begin(), names->end()};
-        else
-            qCInfo(lcBrowser) << "cannot list" << names.error().path << names.error().description;
-        work->data = std::make_shared<BrowserData>(browserData(work->texts));
-        work->texts = {}; // here rather than on the main thread: there are many
-        work->records.reset();
+        std::vector<BrowserRow> recorded = recordedRows(work->texts);
+        work->data = std::make_shared<BrowserData>(browserData(std::move(recorded), listing.get()));
+        work->records.reset(); // here rather than on the main thread
     };
     m_context.ports.inBackground(read, [this, work, assembly = ++m_assemblies] {
         if (assembly == m_assemblies)

@@ -46,7 +46,8 @@ private:
 
     const BrowserTexts &m_texts;
     std::vector<BrowserRow> m_rows;
-    QHash<QString, bool> m_extensions; ///< What was asked before.
+    QString m_lastExtension; ///< What was asked last, and its answer.
+    bool m_lastIsImage = false;
     QHash<QByteArray, QString> m_shared; ///< Dates and sources come again and again.
 };
 
@@ -58,15 +59,14 @@ void RowMaker::add(const QString &date, const QString &name, const QString &capt
 
 bool RowMaker::isPicture(const QString &name)
 {
-    if (!m_texts.names.contains(name))
+    const QStringView extension = QStringView(name).sliced(name.lastIndexOf(u'.') + 1);
+    if (extension.size() == name.size())
         return false;
-    const QString extension = name.sliced(name.lastIndexOf(u'.') + 1);
-    const auto known = m_extensions.constFind(extension);
-    if (known != m_extensions.constEnd())
-        return *known;
-    const bool isImage = extension.size() < name.size() && m_texts.isImageExtension(extension);
-    m_extensions.insert(extension, isImage);
-    return isImage;
+    if (extension != m_lastExtension) { // it hardly ever changes
+        m_lastExtension = extension.toString();
+        m_lastIsImage = m_texts.isImageExtension(m_lastExtension);
+    }
+    return m_lastIsImage;
 }
 
 QString RowMaker::shared(std::string_view bytes)
@@ -136,12 +136,18 @@ size_t qHash(const BrowserRow &row, size_t seed)
     return qHashMulti(seed, row.file, row.source, row.date);
 }
 
-BrowserData browserData(const BrowserTexts &texts)
+std::vector<BrowserRow> recordedRows(const BrowserTexts &texts)
 {
     RowMaker maker(texts);
     maker.readLegacy();
     maker.readRecords();
-    return {newestFirst(maker.takeRows())};
+    return maker.takeRows();
+}
+
+BrowserData browserData(std::vector<BrowserRow> recorded, const QSet<QString> &files)
+{
+    std::erase_if(recorded, [&files](const BrowserRow &row) { return !files.contains(row.file); });
+    return {newestFirst(std::move(recorded))};
 }
 
 CaptionIndex captionIndex(const BrowserData &data)

@@ -39,13 +39,15 @@ struct BrowserTexts
     QString legacy; ///< The legacy captions.
     std::string_view records; ///< The picture records, UTF-8.
     QString folder; ///< The picture folder, ending in "/".
-    QSet<QString> names; ///< The files in it.
     std::function<bool(const QString &extension)> isImageExtension;
 };
 
-/// Makes the rows of the records whose picture is there: legacy ones first, each in file order, then sorted by
-/// date as text, descending and stable.
-BrowserData browserData(const BrowserTexts &texts);
+/// Makes the rows of all records that name a picture, also of those that is not there: legacy ones first, each
+/// in file order.
+std::vector<BrowserRow> recordedRows(const BrowserTexts &texts);
+
+/// Keeps the rows whose picture is among @p files (full paths), sorted by date as text, descending and stable.
+BrowserData browserData(std::vector<BrowserRow> recorded, const QSet<QString> &files);
 
 /// What the user wants to see.
 struct BrowserFilter

@@ -113,10 +113,10 @@ void ImageDelegate::paintTitle(QPainter *painter, const QStyleOptionViewItem &op
     QRect line = option.rect.adjusted(CellPadding - 4, 0, 4 - CellPadding, 2 - CellPadding);
     line.setTop(line.bottom() - titleHeight());
     const QFontMetrics metrics(m_font);
-    constexpr qsizetype MoreThanFits =
-        200; // shaping a whole essay to show its beginning takes long
-    const QString text = metrics.elidedText(title.left(MoreThanFits).simplified(), Qt::ElideRight,
-                                            line.width() - 2 * TitlePadding);
+    // Shaping a whole essay to show its beginning takes long; hardly a letter is narrower than this.
+    constexpr int NarrowLetter = 2;
+    const QString text = metrics.elidedText(title.left(line.width() / NarrowLetter).simplified(),
+                                            Qt::ElideRight, line.width() - 2 * TitlePadding);
     const bool selected = option.state & QStyle::State_Selected;
     if (selected) {
         const int width = metrics.horizontalAdvance(text) + 2 * TitlePadding;

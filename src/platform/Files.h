@@ -76,8 +76,17 @@ public:
     virtual qint64
     size(const QString &path) const = 0; ///< Bytes, or -1 when there is no such file.
 
-    /// Names of the plain files of a folder, without hidden ones, in name order.
-    virtual FileResult<QStringList> list(const QString &folder) const = 0;
+    /// Names of the plain files of a folder, without hidden ones, in any order.
+    virtual FileResult<QStringList> names(const QString &folder) const = 0;
+
+    /// The same in name order.
+    FileResult<QStringList> list(const QString &folder) const
+    {
+        FileResult<QStringList> listed = names(folder);
+        if (listed)
+            listed->sort();
+        return listed;
+    }
 
     /// Makes a folder with all missing parents.
     virtual FileResult<void> makeFolder(const QString &path) = 0;

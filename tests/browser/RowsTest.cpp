@@ -55,12 +55,16 @@ TEST(CaptionIndex, findsEachCaptionOnceAndNothingAcrossTwo)
 
 BrowserTexts texts(std::string_view records, const QString &legacy = {})
 {
-    return {legacy,
-            records,
-            QStringLiteral("/p/"),
-            {QStringLiteral("a.jpg"), QStringLiteral("b.JPG"), QStringLiteral("c.jpg"),
-             QStringLiteral("x y.jpg"), QStringLiteral("notes.txt"), QStringLiteral("jpg")},
+    return {legacy, records, QStringLiteral("/p/"),
             [](const QString &extension) { return extension.toLower() == u"jpg"; }};
+}
+
+BrowserData dataOf(std::string_view records, const QString &legacy = {})
+{
+    QSet<QString> files;
+    for (const char *name : {"a.jpg", "b.JPG", "c.jpg", "x y.jpg", "notes.txt", "jpg"})
+        files.insert(QStringLiteral("/p/") + QLatin1String(name));
+    return browserData(recordedRows(texts(records, legacy)), files);
 }
 
 QStringList summary(const BrowserData &data)
@@ -103,17 +107,16 @@ TEST(BrowserData, takesRecordsOfPicturesThatAreThere)
     };
 
     for (const auto &c : cases)
-        EXPECT_EQ(summary(browserData(texts(c.records, QString::fromUtf8(c.legacy)))), c.rows)
-            << c.records;
+        EXPECT_EQ(summary(dataOf(c.records, QString::fromUtf8(c.legacy))), c.rows) << c.records;
 }
 
 class Filtering : public ::testing::Test
 {
 protected:
     const std::shared_ptr<BrowserData> data = std::make_shared<BrowserData>(
-        browserData(texts("9\twiki\tt\ta.jpg\tp\tMoon over sea\ti\n8\tbing\tt\tb.JPG\tp\tMo\ti\n"
-                          "7\twiki\tt\tc.jpg\tp\tSea\ti\n",
-                          QStringLiteral("6\tWiki Commons\tx y.jpg\tMoon"))));
+        dataOf("9\twiki\tt\ta.jpg\tp\tMoon over sea\ti\n8\tbing\tt\tb.JPG\tp\tMo\ti\n"
+               "7\twiki\tt\tc.jpg\tp\tSea\ti\n",
+               QStringLiteral("6\tWiki Commons\tx y.jpg\tMoon")));
 };
 
 TEST_F(Filtering, filtersByTextAndBySource)

@@ -34,6 +34,7 @@ protected:
         std::optional<Thumbnail> result;
         const auto call = thumbnails.load(path, box, [&](const Thumbnail &t) { result = t; });
         EXPECT_TRUE(waitFor([&] { return result.has_value(); }));
+        thumbnails.waitForDone();
         return *result;
     }
 

@@ -172,21 +172,25 @@ qint64 PosixFiles::size(const QString &path) const
     return info && S_ISREG(info->st_mode) ? qint64(info->st_size) : -1;
 }
 
-FileResult<QStringList> PosixFiles::list(const QString &folder) const
+FileResult<QStringList> PosixFiles::names(const QString &folder) const
 {
     QStringList names;
     const auto read = forEachName(folder, [&names](const dirent &entry, int dir) {
-        const QByteArray name = QByteArray::fromRawData(entry.d_name, qstrlen(entry.d_name));
+        const QByteArrayView name(entry.d_name);
         if (name.startsWith('.') || !isPlain(dir, entry, 0))
             return;
-        const QString text = QFile::decodeName(name);
+        const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+        if (std::all_of(name.begin(), name.end(), isAscii)) { // there may be a hundred thousand
+            names.append(QString::fromLatin1(name));
+            return;
+        }
+        const QString text = QFile::decodeName(name.toByteArray());
         // A name that is no text could not be opened again by its text.
         if (QFile::encodeName(text) == name)
             names.append(text);
     });
     if (!read)
         return tl::make_unexpected(read.error());
-    std::sort(names.begin(), names.end());
     return names;
 }
 

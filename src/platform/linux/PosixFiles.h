@@ -26,7 +26,7 @@ public:
     bool exists(const QString &path) const override;
     bool isFolder(const QString &path) const override;
     qint64 size(const QString &path) const override;
-    FileResult<QStringList> list(const QString &folder) const override;
+    FileResult<QStringList> names(const QString &folder) const override;
     FileResult<void> makeFolder(const QString &path) override;
 
     /// Moves across file systems too, by copying; only a plain file then.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/qt/QtThumbnails.h"
 
+#include "platform/qt/Log.h"
 #include "platform/qt/PictureFile.h"
 
 #include <QDateTime>
@@ -9,12 +10,18 @@
 #include <QThread>
 
 #include <algorithm>
+#include <sys/resource.h>
+#include <unistd.h>
 
 namespace moravel {
 
 namespace {
 
 constexpr int MostThreads = 4;
+
+// What the user waits to see is made before the last ones are kept, unless too many wait in memory for it.
+constexpr int MostUnkept = 64;
+constexpr int WhenNothingElse = -1; ///< Priority below the usual 0.
 
 QImage fitting(const QImage &image, QSize box)
 {
@@ -24,8 +31,17 @@ QImage fitting(const QImage &image, QSize box)
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-Thumbnail make(const ThumbnailCache &cache, const QString &path, QSize box,
-               const std::atomic<bool> &stop)
+/// A thumbnail, and what is still to be kept of it.
+struct Made
+{
+    Thumbnail thumbnail;
+    ThumbnailKey key;
+    int size = 0;
+    QImage toKeep; ///< Null if nothing is.
+};
+
+Made make(const ThumbnailCache &cache, const QString &path, QSize box,
+          const std::atomic<bool> &stop)
 {
     const QFileInfo file(path);
     if (stop || !file.isFile() || box.isEmpty())
@@ -33,15 +49,23 @@ Thumbnail make(const ThumbnailCache &cache, const QString &path, QSize box,
     const ThumbnailKey key{path, file.lastModified().toSecsSinceEpoch(), file.size()};
     const int size = ThumbnailCache::sizeFor(std::max(box.width(), box.height()));
     if (size == 0)
-        return {decodePicture(path, box, stop).image, key.fileSize};
-    QImage image = cache.read(key, size, stop);
-    if (image.isNull()) {
-        image = decodePicture(path, {size, size}, stop).image;
-        // A picture that is no larger than its thumbnail is as quick to read itself.
-        if (!stop && std::max(image.width(), image.height()) == size)
-            cache.write(key, size, image);
-    }
-    return {fitting(image, box), key.fileSize};
+        return {{decodePicture(path, box, stop).image, key.fileSize}, key, size, {}};
+    if (const QImage kept = cache.read(key, size, stop); !kept.isNull())
+        return {{fitting(kept, box), key.fileSize}, key, size, {}};
+    const QImage image = decodePicture(path, {size, size}, stop).image;
+    // A picture that is no larger than its thumbnail is as quick to read itself.
+    const bool keeps = std::max(image.width(), image.height()) == size;
+    return {{fitting(image, box), key.fileSize}, key, size, keeps ? image : QImage()};
+}
+
+/// Two threads that decode on two processors must not hold up the frames of whoever scrolls.
+void yieldToOthers()
+{
+    constexpr int Nice = 10;
+    thread_local const bool once =
+        ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), Nice) == 0;
+    if (!once)
+        qCDebug(lcQt) << "thumbnails are made at the usual priority";
 }
 
 } // namespace
@@ -94,10 +118,25 @@ ThumbnailCallHandle QtThumbnails::load(const QString &path, QSize box,
     m_jobs.emplace(number, job);
     const std::shared_ptr<std::atomic<bool>> stop(job, &job->stop);
     m_pool.start([this, number, path, box, stop] {
-        const Thumbnail thumbnail = make(m_cache, path, box, *stop);
+        yieldToOthers();
+        const Made made = make(m_cache, path, box, *stop);
         QMetaObject::invokeMethod(
-            &m_mainThread, [this, number, thumbnail] { finish(number, thumbnail); },
+            &m_mainThread, [this, number, made] { finish(number, made.thumbnail); },
             Qt::QueuedConnection);
+        if (made.toKeep.isNull())
+            return;
+        const auto keep = [this, made] { m_cache.write(made.key, made.size, made.toKeep); };
+        if (++m_unkept > MostUnkept) {
+            keep();
+            --m_unkept;
+            return;
+        }
+        m_pool.start(
+            [this, keep] {
+                keep();
+                --m_unkept;
+            },
+            WhenNothingElse);
     });
     return std::make_unique<Call>(*this, number);
 }

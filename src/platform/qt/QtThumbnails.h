@@ -24,6 +24,9 @@ public:
     ThumbnailCallHandle load(const QString &path, QSize box,
                              std::function<void(const Thumbnail &)> done) override;
 
+    /// Waits until everything that was made is kept, too.
+    void waitForDone() { m_pool.waitForDone(); }
+
     static QString standardCacheRoot();
 
 private:
@@ -38,6 +41,7 @@ private:
     QObject m_mainThread; ///< Receives the results; those still posted go with it.
     quint64 m_next = 0;
     std::map<quint64, JobPtr> m_jobs;
+    std::atomic<int> m_unkept = 0; ///< Made, but not yet in the cache.
     QThreadPool m_pool;
 };
 
