@@ -156,6 +156,7 @@ std::vector<Case> cases()
         {"a picture", makeEarthObservatory, {{"/feeds/image-of-the-day.rss", feed("<description>x &lt;img src='/a_th.jpg'></description>")}, {"/a_lrg.jpg", "JPEG"}},
          "picture", {R"("full":"@/a_lrg.jpg")", R"("thumb":"@/a_th.jpg")", R"("page":"@/day/14")", "NASA Earth Observatory"}},
         {"no large one", makeEarthObservatory, {{"/feeds/image-of-the-day.rss", feed("<description>&lt;img src='/a_th.jpg'></description>")}, {"/a_th.jpg", "JPEG"}}, "picture", {R"("full":"@/a_th.jpg")"}},
+        {"somebody's own", makeEarthObservatory, {{"/feeds/image-of-the-day.rss", feed("<description>© Jane &lt;img src='/a_th.jpg'></description>")}, {"/a_th.jpg", "JPEG"}}, "picture", {"a copyright is shown"}},
         {"no feed", makeEarthObservatory, {}, "down"},
 
         {"a picture", makeEpod, {{"/blog/atom.xml", atom("@/p.html")}, {"/p.html", "<meta property='og:image' content='/o.jpg'><b>Photographer</b>: <a>Jane Doe</a><br>"}, {"/o.jpg", "JPEG"}},
@@ -214,6 +215,14 @@ TEST_P(Adapters, TellWhatTheirSourceSays)
         EXPECT_TRUE(text.contains(part.replace('@', upstream.base())))
             << part.toStdString() << " in " << text.toStdString();
     EXPECT_EQ(toJson(*outcomeFrom(text)), text);
+}
+
+TEST(Apod, SaysThatItWantsAKey)
+{
+    CurlHttp http(QStringLiteral("test@localhost"));
+    Asking asking({http, QDateTime(QDate(2024, 1, 15), QTime(12, 0), Qt::UTC), {}, true});
+    const Outcome outcome = makeApod({})->ask({2024, 1, 14}, asking);
+    EXPECT_TRUE(toJson(outcome).contains("wants a key"));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Adapters, ::testing::ValuesIn(cases()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "server/core/Text.h"
 
+#include "server/core/Answers.h"
 #include "server/core/Days.h"
 #include "server/core/Form.h"
 #include "server/core/PictureNames.h"
@@ -55,6 +56,17 @@ TEST(PictureNames, ComeApartAsTheyWerePutTogether)
           "../moon-20260101-thumb.jpg", "moon-20260101-../x.jpg", "moon-20260101-thumb.jpg\n",
           "m/n-20260101-thumb.jpg", "-20260101-thumb.jpg"})
         EXPECT_FALSE(parsePictureName(QString::fromLatin1(bad))) << bad;
+}
+
+TEST(Answers, NeverLackACaptionWhereThereIsAPicture)
+{
+    for (const char *caption : {"", " \n", "No caption today"}) {
+        DayPicture day;
+        day.caption = QString::fromLatin1(caption);
+        const QString answer =
+            captionAnswer({QStringLiteral("http://h"), {}, {2020, 1, 1}}, day, {});
+        EXPECT_TRUE(answer.startsWith(QLatin1StringView("Untitled\n"))) << caption;
+    }
 }
 
 TEST(Text, StaysOnOneLineAndIsCut)
