@@ -15,6 +15,7 @@
 #include <csignal>
 #include <cstdio>
 #include <future>
+#include <malloc.h>
 #include <thread>
 #include <unistd.h>
 
@@ -29,6 +30,19 @@ constexpr auto graceAtEnd = std::chrono::seconds(4);
 constexpr int textThreads = 4;
 constexpr int pictureThreads = 28; ///< Most of them wait for their turn to draw.
 constexpr std::size_t mostWaiting = 4096;
+
+/// To be called before there are threads.
+void limitMemory()
+{
+    // There will be many threads, few of them busy: what one gives back is to be of use to the others.
+    constexpr int pools = 2;
+    ::mallopt(M_ARENA_MAX, pools);
+    // Pictures and the like are given back at once, instead of being kept for the next ones.
+    constexpr int large = 1 << 18;
+    ::mallopt(M_MMAP_THRESHOLD, large);
+    // A small file of the progressive kind may want gigabytes; this is enough for 100 megapixels.
+    qputenv("JPEGMEM", "512M");
+}
 
 int fail(const QString &text, int status)
 {
@@ -118,6 +132,7 @@ int serve(HttpServer &server, RenderCache &cache, NetworkSources &network, const
 
 int main(int argc, char **argv)
 {
+    limitMemory();
     const sigset_t signals = blockEndSignals();
     std::signal(SIGPIPE, SIG_IGN);
     const QCoreApplication app(argc, argv); // Finds the plugins for picture formats.

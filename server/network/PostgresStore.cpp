@@ -88,8 +88,10 @@ PostgresStore::Session PostgresStore::open()
         nullptr};
     Session session(PQconnectdbParams(keys.data(), values.data(), 1));
     if (PQstatus(session.get()) != CONNECTION_OK) {
-        m_awayUntil = Clock::now() + std::chrono::seconds(1);
-        qCInfo(serverLog) << "the database:" << PQerrorMessage(session.get());
+        const auto now = Clock::now();
+        const auto before = m_awayUntil.exchange(now + std::chrono::seconds(1));
+        if (now - before > std::chrono::minutes(1))
+            qCInfo(serverLog) << QByteArray(PQerrorMessage(session.get())).trimmed();
         return nullptr;
     }
     // Several processes that begin at once may collide here; the table is there for the later one.
