@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Every adapter with a source that says anything: the first byte chooses the adapter, zero bytes part
-// the answers to its requests.
+// Every adapter with a source that says anything: the first byte chooses the adapter (or, for all
+// inputs, MORAVEL_FUZZ_ADAPTER, a number), zero bytes part the answers to its requests.
 #include "server/network/UpstreamHttp.h"
 #include "server/sources/net/Adapters.h"
 
@@ -49,7 +49,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         QByteArray(reinterpret_cast<const char *>(data + 1), static_cast<qsizetype>(size - 1)));
     const AdapterSetup setup{{}, QStringLiteral("k"), {}, {}};
     const auto &known = knownSources();
-    const std::size_t which = data[0] % (known.size() + 1);
+    static const char *const only = std::getenv("MORAVEL_FUZZ_ADAPTER");
+    const std::size_t wanted = only ? std::strtoul(only, nullptr, 10) : data[0];
+    const std::size_t which = wanted % (known.size() + 1);
     const AdapterSetup feed{QUrl(QStringLiteral("https://a.org/f")), {}, {}, {}};
     const auto adapter = which < known.size() ? known[which].make(setup) : makeFeed(feed);
     Asking asking({upstream, QDateTime(QDate(2024, 1, 15), QTime(12, 0), Qt::UTC), {}, true});
