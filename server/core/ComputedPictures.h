@@ -26,8 +26,8 @@ private:
 
     const std::unique_ptr<ComputedSource> m_source;
     RenderCache &m_cache;
-    /// Finding a fractal worth showing takes 20 ms; this much holds the texts of some six years.
-    mutable Recent<DayText> m_texts{qsizetype(2) << 20};
+    /// Finding a fractal worth showing takes 20 ms; this much holds the texts of some three years.
+    mutable Recent<DayText> m_texts{qsizetype(1) << 20};
 };
 
 } // namespace moravel::server

@@ -96,7 +96,7 @@ qint64 steadyMs()
 } // namespace
 
 Service::Service(const SourceList &sources, Setup setup)
-    : m_sources(sources), m_setup(std::move(setup)), m_kept(qsizetype(8) << 20)
+    : m_sources(sources), m_setup(std::move(setup)), m_kept(qsizetype(5) << 20)
 { }
 
 void Service::handle(const Request &request, const Answer &answer) const
