@@ -100,18 +100,18 @@ TEST_F(NotifyLab, showsThePictureAndTakesAClickOnlyWithAContext)
         {QColor(200, 0, 100), {}, {}},
         {QColor(0, 150, 200), u"growlClickContext"_s, {u"growlClickContext"_s}},
     };
-    for (const auto &[colour, context, clicks] : table) {
+    for (const auto &[colour, context, expected] : table) {
         clicks.clear();
         EXPECT_LT(post(colour, context), 50);
         std::optional<QPoint> place;
         MORAVEL_WAIT((place = findColour(colour)).has_value());
         keepShot();
         click(*place, context.has_value());
-        MORAVEL_WAIT(clicks.size() >= clicks.size());
+        MORAVEL_WAIT(clicks.size() >= expected.size());
         if (daemon == "dunst")
             dunst("close-all");
         MORAVEL_WAIT(!findColour(colour)); // taken, it goes
-        EXPECT_EQ(clicks, clicks);
+        EXPECT_EQ(clicks, expected);
     }
     if (daemon != "dunst")
         return;
