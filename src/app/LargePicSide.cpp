@@ -69,7 +69,6 @@ void LargePicSide::addDesktopPorts(LargePicPorts &ports, DesktopSide &desktop) c
     };
 }
 
-/// The cell that the keyboard is at, else the desktop's, else the first of the grid.
 ThumbView *LargePicSide::cellToShow() const
 {
     if (ThumbView *cell = focusedCell())
@@ -84,15 +83,21 @@ ThumbView *LargePicSide::cellToShow() const
     return nullptr;
 }
 
+QWidget *LargePicSide::showSomePic()
+{
+    ThumbView *cell = cellToShow();
+    if (!cell)
+        return nullptr;
+    m_largePic.showLargePic(*cell, 1);
+    return m_largePic.isVisible() ? m_largePic.pic() : nullptr;
+}
+
 void LargePicSide::attachWindow(MainWindow &window, ToolTips &toolTips)
 {
     auto *item = new QAction(MainWindow::tr("Show &Large Picture"), &window);
     item->setObjectName(QStringLiteral("largePicMenuItem"));
     item->setShortcut(Qt::CTRL | Qt::Key_L);
-    QObject::connect(item, &QAction::triggered, &window, [this] {
-        if (ThumbView *cell = cellToShow())
-            m_largePic.showLargePic(*cell, 1);
-    });
+    QObject::connect(item, &QAction::triggered, &window, [this] { showSomePic(); });
     QMenu &menu = window.viewMenu();
     menu.insertAction(menu.actions().value(0), item);
     menu.insertSeparator(menu.actions().value(1));

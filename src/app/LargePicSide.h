@@ -22,6 +22,10 @@ public:
 
     LargePic &largePic() { return m_largePic; }
 
+    /// Shows the cell that the keyboard is at, else the desktop's, else the first of the grid. Returns the
+    /// window; null when no cell has a picture.
+    QWidget *showSomePic();
+
     bool isVisible() const override { return m_largePic.isVisible(); }
 
     QString currentLargePicPath() const override { return m_largePic.currentLargePicPath(); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/MoravelAppDelegate.h"
 
+#include "app/CurrentPicture.h"
 #include "app/Logging.h"
 #include "app/RemoteActions.h"
 
@@ -235,10 +236,22 @@ void MoravelAppDelegate::switchOn(const QStringList &sources)
 
 void MoravelAppDelegate::attachRemoteControl(RemoteControl &control)
 {
+    const auto showBrowser = [this]() -> QWidget * {
+        m_browser->browser().picBrowser();
+        return &m_browser->browser().browserWindow();
+    };
     tieRemoteControl(control,
-                     {m_platform.loop, m_desktop ? &m_desktop->management() : nullptr,
-                      [this] { bringToFront(*m_window); },
-                      [this](const QStringList &sources) { switchOn(sources); }});
+                     {.platform = m_platform,
+                      .desktop = m_desktop ? &m_desktop->management() : nullptr,
+                      .pictureOfDesktop =
+                          [this](const QString &path) {
+                              return currentPicture(path, m_cells.desktopThumb(), m_dates);
+                          },
+                      .showMainWindow = [this] { return m_window.get(); },
+                      .showLargePic = [this] { return m_largePic->showSomePic(); },
+                      .showBrowser = m_browser ? ShowsWindow(showBrowser) : ShowsWindow(),
+                      .switchOnSources = [this](const QStringList &sources) { switchOn(sources); },
+                      .quit = [] { QCoreApplication::quit(); }});
 }
 
 void MoravelAppDelegate::applicationShouldTerminate()

@@ -1,27 +1,74 @@
 // SPDX-License-Identifier: MIT
 #include "app/Options.h"
 
+#include <QHash>
+
 namespace moravel {
 
 namespace {
 
-QString missingValue(const QString &name)
+// The commands, and what each must be followed by.
+const QHash<QString, QStringList> &commands()
 {
-    return name == u"--sources"
-        ? QStringLiteral("--sources needs \"all\" or a list of source names")
-        : QStringLiteral("--command needs next, previous or hold");
+    static const QHash<QString, QStringList> table{
+        {QStringLiteral("next"), {}},
+        {QStringLiteral("previous"), {}},
+        {QStringLiteral("hold"), {}},
+        {QStringLiteral("current"), {}},
+        {QStringLiteral("set"), {QStringLiteral("the path of a picture")}},
+        {QStringLiteral("show"), {}},
+        {QStringLiteral("large"), {}},
+        {QStringLiteral("browser"), {}},
+        {QStringLiteral("quit"), {}},
+    };
+    return table;
 }
 
-void take(Options &options, const QString &name, const QString &value)
+// Takes the option at @p i, and its value. Returns what is wrong, or "".
+QString takeOption(Options &options, const QStringList &arguments, qsizetype &i)
 {
-    if (name == u"--command") {
-        options.action = Options::Action::Command;
-        options.command = value;
-        return;
+    const QString name = arguments[i].section(u'=', 0, 0);
+    if (name == u"--version") {
+        options.action = Options::Action::PrintVersion;
+    } else if (name == u"--help" || name == u"-h") {
+        options.action = Options::Action::PrintHelp;
+    } else if (name == u"--json") {
+        options.json = true;
+    } else if (name == u"--sources") {
+        const bool inOne = arguments[i].contains(u'=');
+        const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
+        if (value.isEmpty())
+            return QStringLiteral("--sources needs \"all\" or a list of source names");
+        options.sources = value.split(u',', Qt::SkipEmptyParts);
+        for (QString &source : *options.sources)
+            source = source.trimmed();
+    } else {
+        return QStringLiteral("unknown option: %1").arg(arguments[i]);
     }
-    options.sources = value.split(u',', Qt::SkipEmptyParts);
-    for (QString &source : *options.sources)
-        source = source.trimmed();
+    return {};
+}
+
+// Takes the words that are no options. Returns what is wrong, or "".
+QString takeWords(Options &options, QStringList words)
+{
+    if (words.isEmpty())
+        return options.json ? QStringLiteral("--json goes with the command current") : QString();
+    const QString command = words.takeFirst();
+    const auto known = commands().constFind(command);
+    if (known == commands().cend())
+        return QStringLiteral("unknown command: %1").arg(command);
+    if (options.sources || (options.json && command != u"current"))
+        return QStringLiteral("%1 does not go with the command %2")
+            .arg(options.sources ? QStringLiteral("--sources") : QStringLiteral("--json"), command);
+    if (words.size() < known->size())
+        return QStringLiteral("%1 needs %2").arg(command, known->at(words.size()));
+    if (words.size() > known->size())
+        return QStringLiteral("%1 cannot take: %2").arg(command, words.at(known->size()));
+    options.command = command;
+    options.arguments = words;
+    if (options.action == Options::Action::Run)
+        options.action = Options::Action::Command;
+    return {};
 }
 
 } // namespace
@@ -29,46 +76,51 @@ void take(Options &options, const QString &name, const QString &value)
 tl::expected<Options, QString> parseOptions(const QStringList &arguments)
 {
     Options options;
+    QStringList words;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
-        const QString name = arguments[i].section(u'=', 0, 0);
-        if (name == u"--version") {
-            options.action = Options::Action::PrintVersion;
-        } else if (name == u"--help" || name == u"-h") {
-            options.action = Options::Action::PrintHelp;
-        } else if (name == u"--sources" || name == u"--command") {
-            const bool inOne = arguments[i].contains(u'=');
-            const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
-            if (value.isEmpty())
-                return tl::unexpected(missingValue(name));
-            take(options, name, value);
-        } else {
-            return tl::unexpected(QStringLiteral("unknown argument: %1").arg(arguments[i]));
+        if (arguments[i] == u"--") {
+            words += arguments.mid(i + 1);
+            break;
         }
+        if (!arguments[i].startsWith(u'-') || arguments[i] == u"-")
+            words.append(arguments[i]);
+        else if (const QString wrong = takeOption(options, arguments, i); !wrong.isEmpty())
+            return tl::unexpected(wrong);
     }
+    if (const QString wrong = takeWords(options, words); !wrong.isEmpty())
+        return tl::unexpected(wrong);
     return options;
 }
 
 QString helpText()
 {
-    return QStringLiteral(
-        "Usage: moravel [--sources all | --sources \"Long name,Long name\"]\n"
-        "       moravel --command next|previous|hold\n"
-        "       moravel --version | --help\n"
-        "\n"
-        "Shows the pictures of the day of many sources and keeps them in your Pictures folder.\n"
-        "\n"
-        "  --sources LIST  switches these sources on (and remembers it); \"all\" means every "
-        "source\n"
-        "  --command NAME  asks the running program: next changes the desktop picture, previous "
-        "goes\n"
-        "                  back to the one before, hold keeps it for an hour\n"
-        "  --version       prints the version and the address of the service\n"
-        "  -h, --help      prints this text\n"
-        "\n"
-        "Started a second time, the program brings its window to the front and hands the sources "
-        "over.\n"
-        "Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running "
-        "(--command).\n");
+    return QStringLiteral(R"(Usage: moravel [--sources LIST]
+  or:  moravel COMMAND
+Shows the pictures of the day of many sources and keeps them in your Pictures folder.
+
+Options:
+  --sources LIST  switch these sources on and remember it: long names with commas between,
+                  or all
+  --json          with current: answer in JSON
+  -h, --help      show this text
+  --version       show the version and the address of the service
+
+Commands for the running program:
+  next            change the desktop picture
+  previous        go back to the desktop picture before
+  hold            keep the desktop picture for an hour
+  current         tell source, date, caption, file and page of the desktop picture
+  set FILE        make a picture file the desktop
+  show            bring the window to the front
+  large           show a picture large: the desktop's, as a rule
+  browser         open the browser of the collection
+  quit            end the program
+
+Started a second time without a command, the program brings its window to the front and hands
+the sources over.
+
+Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (commands only).
+)");
 }
 
 } // namespace moravel

@@ -16,7 +16,9 @@ struct Options
     Action action = Action::Run;
     /// Sources to switch on, by long name; one entry "all" means every source.
     std::optional<QStringList> sources;
-    QString command; ///< For the running program: next, previous, hold.
+    QString command; ///< For the running program.
+    QStringList arguments; ///< Of the command.
+    bool json = false; ///< The command's answer as JSON.
 };
 
 /// Reads the arguments (without the program's name). The error is one line for standard error.

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
+#include "app/CurrentPicture.h"
 #include "app/MoravelAppDelegate.h"
-#include "app/RemoteActions.h"
 #include "app/Translations.h"
 #include "app/Version.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
+#include "platform/linux/session/Activation.h"
 #include "platform/linux/session/DBusNotifications.h"
 #include "platform/linux/session/GioPrograms.h"
 #include "platform/linux/session/LinuxWorkspace.h"
+#include "platform/linux/session/LocalService.h"
 #include "platform/linux/session/ProgramInstance.h"
 #include "platform/linux/session/ProgramName.h"
 #include "platform/linux/session/QtTray.h"
+#include "platform/linux/session/RunningProgram.h"
 #include "platform/linux/session/SessionEvents.h"
 #include "platform/qt/MessageLog.h"
 #include "platform/qt/QtAlerts.h"
@@ -25,6 +28,7 @@
 #include "platform/qt/QtUrlOpener.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
 #include <QLocale>
 
@@ -42,7 +46,8 @@ constexpr int NotRunning = 3;
 std::optional<int> answeredAtOnce(const tl::expected<Options, QString> &options)
 {
     if (!options) {
-        std::fprintf(stderr, "moravel: %s\n", qUtf8Printable(options.error()));
+        std::fprintf(stderr, "moravel: %s\nTry 'moravel --help'.\n",
+                     qUtf8Printable(options.error()));
         return UsageError;
     }
     if (options->action == Options::Action::PrintVersion)
@@ -65,6 +70,15 @@ bool isQuestion(const char *argument)
     return false;
 }
 
+// The same for commands, which stand before all options but this one.
+bool beginsWithCommand(int argc, char **argv)
+{
+    int first = 1;
+    while (first < argc && qstrcmp(argv[first], "--json") == 0)
+        ++first;
+    return first < argc && argv[first][0] != '-';
+}
+
 int exitCode(const tl::expected<void, RemoteError> &result)
 {
     if (result)
@@ -73,25 +87,47 @@ int exitCode(const tl::expected<void, RemoteError> &result)
     return result.error().notRunning ? NotRunning : Refused;
 }
 
+int printCurrent(bool json)
+{
+    const auto picture = askForCurrentPicture(QDBusConnection::sessionBus());
+    if (!picture)
+        return exitCode(tl::unexpected(picture.error()));
+    std::fputs(json ? pictureJson(*picture).constData() : qUtf8Printable(pictureText(*picture)),
+               stdout);
+    return 0;
+}
+
 // A command for the running program, which needs no display of its own.
-int sendCommand(int argc, char **argv)
+int sendCommand(const Options &options, const QVariantMap &activation)
+{
+    if (options.command == u"current")
+        return printCurrent(options.json);
+    QVariantList arguments;
+    for (const QString &path :
+         options.arguments) // which mean something in this process's folder only
+        arguments.append(QDir::current().absoluteFilePath(path));
+    return exitCode(
+        askRunningProgram(QDBusConnection::sessionBus(), options.command, arguments, activation));
+}
+
+int runCommand(int argc, char **argv, const QVariantMap &activation)
 {
     QCoreApplication app(argc, argv);
     installTranslations(app, QLocale().uiLanguages());
     const auto options = parseOptions(QCoreApplication::arguments().mid(1));
-    if (const auto code = answeredAtOnce(options))
-        return *code;
-    return exitCode(askRunningProgram(QDBusConnection::sessionBus(), options->command));
+    const auto code = answeredAtOnce(options);
+    return code ? *code : sendCommand(*options, activation);
 }
 
 // Hands over to the program that runs already; what could not be handed over says the error.
-tl::expected<void, RemoteError> handOver(const Options &options)
+tl::expected<void, RemoteError> handOver(const Options &options, const QVariantMap &activation)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     if (!options.sources)
-        return activateRunningProgram(bus);
+        return askRunningProgram(bus, {}, {}, activation);
     return askRunningProgram(bus, remoteaction::Sources,
-                             QVariantList(options.sources->cbegin(), options.sources->cend()));
+                             QVariantList(options.sources->cbegin(), options.sources->cend()),
+                             activation);
 }
 
 // What the desktop lends the program. The session bus may be missing; then only the pictures work.
@@ -135,11 +171,11 @@ ShareSetup shareSetup(UrlOpener &urls, Clipboard &clipboard)
             QStringLiteral(MORAVEL_VERSION)};
 }
 
-int runApplication(QApplication &app, const Options &options)
+int runApplication(QApplication &app, const Options &options, const QVariantMap &activation)
 {
     ProgramInstance instance(QDBusConnection::sessionBus());
     if (instance.claim() == ProgramInstance::Claim::Second) {
-        const auto handedOver = handOver(options);
+        const auto handedOver = handOver(options, activation);
         const bool isEnding = !handedOver && handedOver.error().notRunning;
         if (!isEnding || instance.claim() == ProgramInstance::Claim::Second)
             return exitCode(handedOver);
@@ -157,6 +193,11 @@ int runApplication(QApplication &app, const Options &options)
     LinuxTrash trash(loop);
     GioPrograms programs;
     LinuxDesktop desktop(loop, files, images);
+    LocalService service(
+        {QUrl(QStringLiteral(MORAVEL_SERVICE_BASE_URL)),
+         QCoreApplication::applicationDirPath() + QStringLiteral("/moravel-service"),
+         QStringLiteral(MORAVEL_SERVICE_CONFIG)},
+        loop);
     MoravelAppDelegate delegate(
         {loop, http, defaults, files, alerts, images, random, &trash, &programs}, desktop.lend(),
         shareSetup(urls, clipboard), options, &thumbnails);
@@ -167,9 +208,11 @@ int runApplication(QApplication &app, const Options &options)
     delegate.window().show();
     // The window is on screen before the disk and the service are asked.
     loop.schedule(0, [&] {
-        delegate.applicationDidFinishLaunching();
-        delegate.attachRemoteControl(instance);
-        instance.ready();
+        service.ensure([&] {
+            delegate.applicationDidFinishLaunching();
+            delegate.attachRemoteControl(instance);
+            instance.ready();
+        });
     });
     return QApplication::exec();
 }
@@ -186,10 +229,9 @@ int main(int argc, char **argv)
             return *answeredAtOnce(parseOptions({QString::fromLocal8Bit(argv[i])}));
         }
     }
-    for (int i = 1; i < argc; ++i) {
-        if (QByteArrayView(argv[i]).startsWith("--command"))
-            return sendCommand(argc, argv);
-    }
+    const QVariantMap activation = activationFromEnvironment();
+    if (beginsWithCommand(argc, argv))
+        return runCommand(argc, argv, activation);
     QApplication app(argc, argv);
     installTranslations(app, QLocale().uiLanguages());
     QApplication::setApplicationName(QStringLiteral("moravel"));
@@ -199,5 +241,7 @@ int main(int argc, char **argv)
     const auto options = parseOptions(QApplication::arguments().mid(1));
     if (const auto code = answeredAtOnce(options))
         return *code;
-    return runApplication(app, *options);
+    if (options->action == Options::Action::Command)
+        return sendCommand(*options, activation);
+    return runApplication(app, *options, activation);
 }

@@ -31,6 +31,8 @@ public:
 
     /// Makes the picture of the large picture window the desktop; asks first when it is huge.
     void setDesktop(const QString &currentLargePicPath);
+    /// Makes a picture that the user chose the desktop; it stays for a whole interval.
+    void setChosenDesktop(const QString &path);
     /// Makes the picture of a cell the desktop. The second click on a deleted one restores it.
     void setAsDesktop(ThumbView &cell, int clickCount);
     void showInFinder(ThumbView &cell);
@@ -51,7 +53,6 @@ public:
 
 private:
     DockMenuState dockMenuState() const;
-    void setChosenDesktop(const QString &path);
 
     DesktopContext m_context;
     DesktopSetter m_setter;

@@ -213,12 +213,12 @@ TEST(Options, commandLine)
     EXPECT_EQ(*parse("--sources|all")->sources, QStringList{QStringLiteral("all")});
     EXPECT_EQ(*parse("--sources=One, Two words")->sources,
               (QStringList{QStringLiteral("One"), QStringLiteral("Two words")}));
-    EXPECT_EQ(parse("--command=next")->command, QStringLiteral("next"));
-    EXPECT_EQ(parse("--command|hold")->action, Options::Action::Command);
-    EXPECT_FALSE(parse("--sources"));
-    EXPECT_FALSE(parse("--command="));
-    EXPECT_FALSE(parse("--frobnicate"));
-    EXPECT_FALSE(parse("file.jpg"));
+    EXPECT_EQ(parse("hold")->action, Options::Action::Command);
+    EXPECT_TRUE(parse("current|--json")->json);
+    EXPECT_EQ(parse("set|--|-a.jpg")->arguments, QStringList{QStringLiteral("-a.jpg")});
+    for (const char *wrong : {"--sources", "--frobnicate", "file.jpg", "next|--json", "--json",
+                              "set", "set|a|b", "next|now", "quit|--sources|all", "-"})
+        EXPECT_FALSE(parse(wrong)) << wrong;
 }
 
 } // namespace

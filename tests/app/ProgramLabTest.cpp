@@ -54,10 +54,7 @@ protected:
         return desktop();
     }
 
-    static int command(const char *name)
-    {
-        return run({Moravel, QStringLiteral("--command"), QLatin1String(name)});
-    }
+    static int command(const char *name) { return run({Moravel, QLatin1String(name)}); }
 
     QProcess program;
 };

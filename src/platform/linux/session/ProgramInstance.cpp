@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/session/ProgramInstance.h"
 
+#include "moravel1adaptor.h"
+
+#include "platform/linux/session/Activation.h"
 #include "platform/linux/session/Log.h"
 #include "platform/linux/session/ProgramName.h"
 
@@ -10,58 +13,18 @@
 
 namespace moravel {
 
-namespace {
-
-const QString Path = QStringLiteral("/org/moravel/Moravel");
-const QString Interface = QStringLiteral("org.freedesktop.Application");
-const QString TokenKey = QStringLiteral("activation-token");
-
-constexpr int AnswerTimeout = 5'000; // ms
-constexpr qsizetype LongestToken = 1000; // characters
-
-// A compositor lets a window come to the front only with the token that the user's click was given.
-void useToken(const QString &token)
-{
-    if (!token.isEmpty() && token.size() <= LongestToken)
-        qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
-}
-
-QVariantMap platformData()
-{
-    const QString token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
-    return token.isEmpty() ? QVariantMap() : QVariantMap{{TokenKey, token}};
-}
-
-tl::expected<void, RemoteError> call(const QDBusConnection &bus, const QString &method,
-                                     const QVariantList &arguments)
-{
-    QDBusMessage message = QDBusMessage::createMethodCall(ProgramName, Path, Interface, method);
-    message.setAutoStartService(false);
-    message.setArguments(arguments);
-    const QDBusMessage reply = bus.call(message, QDBus::Block, AnswerTimeout);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return {};
-    const QDBusError error(reply);
-    if (!bus.isConnected() || error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner"
-        || error.type() == QDBusError::ServiceUnknown)
-        return tl::unexpected(RemoteError{true, QStringLiteral("Moravel is not running")});
-    if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
-        return tl::unexpected(
-            RemoteError{false, QStringLiteral("Moravel is running but does not answer")});
-    return tl::unexpected(RemoteError{false, error.message()});
-}
-
-} // namespace
-
 ProgramInstance::ProgramInstance(const QDBusConnection &sessionBus) : m_bus(sessionBus)
-{ }
+{
+    new Moravel1Adaptor(this); // owned by this object, found by registerObject()
+}
 
 ProgramInstance::Claim ProgramInstance::claim()
 {
     if (!m_bus.isConnected())
         return Claim::NoBus;
     // The object first: whoever sees the name may call at once.
-    m_bus.registerObject(Path, this, QDBusConnection::ExportScriptableSlots);
+    m_bus.registerObject(ProgramPath, this,
+                         QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportAdaptors);
     return m_bus.registerService(ProgramName) ? Claim::First : Claim::Second;
 }
 
@@ -69,32 +32,86 @@ void ProgramInstance::ready()
 {
     m_ready = true;
     for (const Request &request : std::exchange(m_waiting, {}))
-        answer(request);
+        carryOut(request);
 }
 
-void ProgramInstance::Activate(const QVariantMap &data)
+void ProgramInstance::letToFront(QWindow &window)
 {
-    take({{}, {}, data.value(TokenKey).toString(), message()});
+    activateByStartupId(window, m_startupId);
+}
+
+void ProgramInstance::Activate(const QVariantMap &platformData)
+{
+    take(remoteaction::Show, {}, platformData);
 }
 
 // The program is no viewer: files that a launcher hands over only bring it to the front.
-void ProgramInstance::Open(const QStringList &, const QVariantMap &data)
+void ProgramInstance::Open(const QStringList &, const QVariantMap &platformData)
 {
-    Activate(data);
+    Activate(platformData);
 }
 
 void ProgramInstance::ActivateAction(const QString &action, const QVariantList &parameter,
-                                     const QVariantMap &data)
+                                     const QVariantMap &platformData)
 {
-    take({action, parameter, data.value(TokenKey).toString(), message()});
+    take(action, parameter, platformData);
 }
 
-void ProgramInstance::take(const Request &request)
+void ProgramInstance::Next()
 {
-    if (calledFromDBus())
-        setDelayedReply(true);
+    take(QStringLiteral("next"));
+}
+
+void ProgramInstance::Previous()
+{
+    take(QStringLiteral("previous"));
+}
+
+void ProgramInstance::Hold()
+{
+    take(QStringLiteral("hold"));
+}
+
+QVariantMap ProgramInstance::Current()
+{
+    take(QStringLiteral("current"), {}, {}, true);
+    return {};
+}
+
+void ProgramInstance::SetFile(const QString &path)
+{
+    take(QStringLiteral("set"), {path});
+}
+
+void ProgramInstance::Show()
+{
+    take(remoteaction::Show);
+}
+
+void ProgramInstance::ShowLargePicture()
+{
+    take(QStringLiteral("large"));
+}
+
+void ProgramInstance::ShowBrowser()
+{
+    take(QStringLiteral("browser"));
+}
+
+void ProgramInstance::Quit()
+{
+    take(QStringLiteral("quit"));
+}
+
+void ProgramInstance::take(const QString &action, const QVariantList &arguments,
+                           const QVariantMap &platformData, bool wantsResult)
+{
+    if (!calledFromDBus())
+        return;
+    setDelayedReply(true);
+    const Request request{action, arguments, platformData, wantsResult, message()};
     if (m_ready)
-        answer(request);
+        carryOut(request);
     else if (m_waiting.size() < MostWaiting)
         m_waiting.append(request);
     else
@@ -102,32 +119,26 @@ void ProgramInstance::take(const Request &request)
                                                     QStringLiteral("Moravel is still starting")));
 }
 
-void ProgramInstance::answer(const Request &request)
+void ProgramInstance::carryOut(const Request &request)
 {
-    useToken(request.activationToken);
-    tl::expected<void, QString> result;
-    if (!request.action.isEmpty())
-        result = onAction ? onAction(request.action, request.arguments)
-                          : tl::unexpected(QStringLiteral("Moravel takes no actions"));
-    else if (onActivate)
-        onActivate();
-    if (!result)
-        qCInfo(lcSession).noquote() << "refused:" << request.action << result.error();
-    m_bus.send(result ? request.message.createReply()
-                      : request.message.createErrorReply(QDBusError::Failed, result.error()));
+    m_startupId = useActivation(request.platformData);
+    if (onAction)
+        onAction(request.action, request.arguments,
+                 [this, request](const Result &result) { reply(request, result); });
+    else
+        reply(request, tl::unexpected(QStringLiteral("Moravel takes no actions")));
+    endStartup(std::exchange(m_startupId, {}));
 }
 
-tl::expected<void, RemoteError> activateRunningProgram(const QDBusConnection &sessionBus)
+void ProgramInstance::reply(const Request &request, const Result &result)
 {
-    return call(sessionBus, QStringLiteral("Activate"), {platformData()});
-}
-
-tl::expected<void, RemoteError> askRunningProgram(const QDBusConnection &sessionBus,
-                                                  const QString &action,
-                                                  const QVariantList &arguments)
-{
-    return call(sessionBus, QStringLiteral("ActivateAction"),
-                {action, QVariant(arguments), platformData()});
+    if (!result) {
+        qCInfo(lcSession).noquote() << "refused:" << request.action.left(100) << result.error();
+        m_bus.send(request.message.createErrorReply(QDBusError::Failed, result.error()));
+        return;
+    }
+    m_bus.send(request.wantsResult ? request.message.createReply(QVariant(*result))
+                                   : request.message.createReply());
 }
 
 } // namespace moravel

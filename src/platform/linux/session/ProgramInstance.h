@@ -7,14 +7,12 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QObject>
-#include <QVariantMap>
-
-#include <tl/expected.hpp>
 
 namespace moravel {
 
 /// The one running program of the session. It owns the program's name on the session bus and offers
-/// org.freedesktop.Application there; a second process reaches it with the functions below.
+/// org.freedesktop.Application and org.moravel.Moravel1 there; other processes reach it through
+/// RunningProgram.h, or as they like.
 ///
 /// What is asked before the program is ready waits for it.
 class ProgramInstance : public QObject, public RemoteControl, protected QDBusContext
@@ -39,8 +37,22 @@ public:
     /// Answers from now on, beginning with what waits.
     void ready();
 
+    void letToFront(QWindow &window) override;
+
+    // The methods of org.moravel.Moravel1 (packaging/dbus), called by the adaptor that is made from its
+    // description. Replies come later, whatever is returned here.
+    void Next();
+    void Previous();
+    void Hold();
+    QVariantMap Current();
+    void SetFile(const QString &path);
+    void Show();
+    void ShowLargePicture();
+    void ShowBrowser();
+    void Quit();
+
 public Q_SLOTS:
-    // The methods of the interface, under the names that it gives them.
+    // The methods of org.freedesktop.Application, under the names that it gives them.
     Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
     Q_SCRIPTABLE void Open(const QStringList &uris, const QVariantMap &platformData);
     Q_SCRIPTABLE void ActivateAction(const QString &action, const QVariantList &parameter,
@@ -49,33 +61,22 @@ public Q_SLOTS:
 private:
     struct Request
     {
-        QString action; ///< Empty: only activate.
+        QString action;
         QVariantList arguments;
-        QString activationToken;
+        QVariantMap platformData;
+        bool wantsResult = false; ///< Else the reply is empty.
         QDBusMessage message;
     };
 
-    void take(const Request &request);
-    void answer(const Request &request);
+    void take(const QString &action, const QVariantList &arguments = {},
+              const QVariantMap &platformData = {}, bool wantsResult = false);
+    void carryOut(const Request &request);
+    void reply(const Request &request, const Result &result);
 
     QDBusConnection m_bus;
     QList<Request> m_waiting;
+    QString m_startupId; ///< Of the request that is being carried out.
     bool m_ready = false;
 };
-
-/// Why another process could not be asked.
-struct RemoteError
-{
-    bool notRunning = false; ///< Else it has refused or does not answer.
-    QString text; ///< One sentence for standard error.
-};
-
-/// Asks the running program to come to the front. Waits for its answer, 5 seconds at most; starts nothing.
-tl::expected<void, RemoteError> activateRunningProgram(const QDBusConnection &sessionBus);
-
-/// Asks the running program for an action, in the same way.
-tl::expected<void, RemoteError> askRunningProgram(const QDBusConnection &sessionBus,
-                                                  const QString &action,
-                                                  const QVariantList &arguments = {});
 
 } // namespace moravel
