@@ -31,6 +31,9 @@ public:
     /// Adds the command to the window's View menu.
     void attachWindow(MainWindow &window);
 
+    /// For what is tied later: a port counts from the first showing on.
+    BrowserPorts &ports() { return m_ports; }
+
     Browser &browser() { return m_browser; }
 
 private:

@@ -45,7 +45,12 @@ public:
         m_ports.reloadDeletedPic = std::move(reload);
     }
 
+    /// Enters what tells why the desktop may not be changed unasked.
+    void setWhyNotNow(std::function<QString()> why) { m_ports.whyNotNow = std::move(why); }
+
     GrowlAlert &growl() { return m_growl; }
+
+    const Tray &tray() const { return m_platform.tray; }
 
     Workspace &workspace() { return m_platform.workspace; }
 

@@ -40,6 +40,7 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
                 m_folders,  m_records, m_updates,    m_links, m_ports}
     , m_service(m_context, share.addresses.home)
     , m_share(m_context, m_preferences, m_service, share, desktop ? desktop->pictures : nullptr)
+    , m_start(m_platform, m_preferences)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
     m_ports.loadNews = [this] { m_service.news().loadNews(); };
@@ -49,6 +50,7 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     m_ports.largePic = m_largePic.get();
     if (m_platform.trash)
         buildPictureActions(*m_platform.trash);
+    buildQuiet();
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -78,6 +80,21 @@ void MoravelAppDelegate::buildPictureActions(Trash &trash)
         m_platform.loop.inOrder(
             [this, &cell] { m_pictureActions->deletePic(cell, DeleteSender::LargePicWindow); });
     };
+}
+
+void MoravelAppDelegate::buildQuiet()
+{
+    QuietPorts ports;
+    ports.catchUpDownloads = [this] { m_service.catchUp(); };
+    ports.connectionIsBack = [this] { m_service.connectionIsBack(); };
+    ports.catchUpRotation = [this] {
+        if (m_desktop)
+            m_desktop->management().rotation().catchUp();
+    };
+    m_quiet = std::make_unique<QuietSide>(m_platform, m_preferences, std::move(ports));
+    m_ports.whyNotNow = [this] { return m_quiet->whyNoDownload(); };
+    if (m_desktop)
+        m_desktop->setWhyNotNow([this] { return m_quiet->whyNoRotation(); });
 }
 
 ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
@@ -140,10 +157,7 @@ void MoravelAppDelegate::buildWindow()
         return true;
     };
     SourceGridPorts ports;
-    ports.startPass = [this](double seconds) {
-        if (m_cells.count() > 0) // without cells there is no pass, and nothing to say of it
-            m_service.thumbPass().restart(seconds);
-    };
+    ports.startPass = [this](double seconds) { startPass(seconds); };
     ports.retry = [this] { askForSourcesAgain(); };
     if (m_thumbnails) {
         m_browser = std::make_unique<BrowserSide>(m_context, m_legacy, m_preferences, *m_thumbnails,
@@ -168,6 +182,35 @@ void MoravelAppDelegate::buildWindow()
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
     m_share.attachWindow(*m_window, *m_grid);
+    const auto follow = [this](const char *name) {
+        return [this, name](QWidget &window) {
+            m_start.places().follow(window, QString::fromLatin1(name));
+        };
+    };
+    largePic().ports().windowMade = follow("large");
+    if (m_browser)
+        m_browser->ports().windowMade = follow("browser");
+    m_start.attachWindow(*m_window);
+    m_quiet->attachWindow(*m_window);
+}
+
+// Without cells there is no pass, and nothing to say of it. Where nobody looks, nobody has asked.
+void MoravelAppDelegate::startPass(double seconds)
+{
+    if (m_cells.count() == 0)
+        return;
+    if (m_window->isVisible() && !m_window->isMinimized())
+        m_service.thumbPass().restart(seconds);
+    else
+        m_service.thumbPass().restartUnasked(seconds);
+}
+
+void MoravelAppDelegate::showWindow()
+{
+    if (m_options.hidden)
+        m_start.startHidden(m_desktop ? &m_desktop->tray() : nullptr);
+    else
+        m_window->show();
 }
 
 void MoravelAppDelegate::applicationDidFinishLaunching()
@@ -244,6 +287,12 @@ void MoravelAppDelegate::attachRemoteControl(RemoteControl &control)
 void MoravelAppDelegate::applicationShouldTerminate()
 {
     m_service.downloads().cancelAll();
+    saveOpenState();
+}
+
+void MoravelAppDelegate::saveOpenState()
+{
+    m_start.places().save();
 }
 
 void MoravelAppDelegate::showStatus(const QString &text)

@@ -35,6 +35,8 @@ tl::expected<Options, QString> parseOptions(const QStringList &arguments)
             options.action = Options::Action::PrintVersion;
         } else if (name == u"--help" || name == u"-h") {
             options.action = Options::Action::PrintHelp;
+        } else if (name == u"--hidden") {
+            options.hidden = true;
         } else if (name == u"--sources" || name == u"--command") {
             const bool inOne = arguments[i].contains(u'=');
             const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
@@ -52,6 +54,7 @@ QString helpText()
 {
     return QStringLiteral(
         "Usage: moravel [--sources all | --sources \"Long name,Long name\"]\n"
+        "       moravel --hidden\n"
         "       moravel --command next|previous|hold\n"
         "       moravel --version | --help\n"
         "\n"
@@ -59,6 +62,7 @@ QString helpText()
         "\n"
         "  --sources LIST  switches these sources on (and remembers it); \"all\" means every "
         "source\n"
+        "  --hidden        starts without the window, in the tray (minimised where there is none)\n"
         "  --command NAME  asks the running program: next changes the desktop picture, previous "
         "goes\n"
         "                  back to the one before, hold keeps it for an hour\n"

@@ -6,8 +6,13 @@
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
+#include "platform/linux/desktops/FullScreenWatch.h"
+#include "platform/linux/session/AutostartEntry.h"
+#include "platform/linux/session/AutostartPortal.h"
 #include "platform/linux/session/DBusNotifications.h"
+#include "platform/linux/session/EndSignals.h"
 #include "platform/linux/session/GioPrograms.h"
+#include "platform/linux/session/LinuxSurroundings.h"
 #include "platform/linux/session/LinuxWorkspace.h"
 #include "platform/linux/session/ProgramInstance.h"
 #include "platform/linux/session/ProgramName.h"
@@ -27,6 +32,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLocale>
+#include <QSessionManager>
 
 #include <cstdio>
 
@@ -88,6 +94,8 @@ int sendCommand(int argc, char **argv)
 tl::expected<void, RemoteError> handOver(const Options &options)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (options.hidden && !options.sources)
+        return {}; // it runs, and nobody asked to see it
     if (!options.sources)
         return activateRunningProgram(bus);
     return askRunningProgram(bus, remoteaction::Sources,
@@ -125,6 +133,49 @@ struct LinuxDesktop
     std::unique_ptr<DesktopPictures> pictures;
 };
 
+// The surroundings, with what only the window system knows. Wayland does not tell it.
+struct LinuxSession
+{
+    LinuxSession() : surroundings(QDBusConnection::systemBus(), QDBusConnection::sessionBus())
+    {
+        if (QGuiApplication::platformName() == u"xcb")
+            fullScreen = FullScreenWatch::start();
+        if (!fullScreen)
+            return;
+        fullScreen->onChanged = [this] { surroundings.setFullScreen(fullScreen->isFullScreen()); };
+        fullScreen->onChanged();
+    }
+
+    LinuxSurroundings surroundings;
+    std::unique_ptr<FullScreenWatch> fullScreen;
+};
+
+std::unique_ptr<Autostart> makeAutostart(Defaults &defaults)
+{
+    const QStringList arguments{QStringLiteral("--hidden")};
+    if (AutostartPortal::isNeeded())
+        return std::make_unique<AutostartPortal>(QDBusConnection::sessionBus(), defaults,
+                                                 QStringList{QStringLiteral("moravel")}
+                                                     + arguments);
+    return std::make_unique<AutostartEntry>(commandOfThisProgram(arguments));
+}
+
+// A session that starts its programs again must not start one that it starts at each login anyway.
+void tieSession(const QApplication &app, MoravelAppDelegate &delegate, const Autostart &autostart)
+{
+    QObject::connect(
+        &app, &QGuiApplication::commitDataRequest, &delegate,
+        [&delegate] { delegate.saveOpenState(); }, Qt::DirectConnection);
+    QObject::connect(
+        &app, &QGuiApplication::saveStateRequest, &delegate,
+        [&autostart](QSessionManager &session) {
+            session.setRestartHint(autostart.isOn() ? QSessionManager::RestartNever
+                                                    : QSessionManager::RestartIfRunning);
+            session.setRestartCommand(commandOfThisProgram({}));
+        },
+        Qt::DirectConnection);
+}
+
 ShareSetup shareSetup(UrlOpener &urls, Clipboard &clipboard)
 {
     return {urls,
@@ -157,14 +208,18 @@ int runApplication(QApplication &app, const Options &options)
     LinuxTrash trash(loop);
     GioPrograms programs;
     LinuxDesktop desktop(loop, files, images);
-    MoravelAppDelegate delegate(
-        {loop, http, defaults, files, alerts, images, random, &trash, &programs}, desktop.lend(),
-        shareSetup(urls, clipboard), options, &thumbnails);
+    LinuxSession session;
+    const std::unique_ptr<Autostart> autostart = makeAutostart(defaults);
+    MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random, &trash,
+                                 &programs, &session.surroundings, autostart.get()},
+                                desktop.lend(), shareSetup(urls, clipboard), options, &thumbnails);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();
     alerts.setParentWindow(&delegate.window());
-    delegate.window().show();
+    delegate.showWindow();
+    const EndSignals endSignals([] { QCoreApplication::quit(); });
+    tieSession(app, delegate, *autostart);
     // The window is on screen before the disk and the service are asked.
     loop.schedule(0, [&] {
         delegate.applicationDidFinishLaunching();
@@ -196,6 +251,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(MORAVEL_VERSION));
     QApplication::setDesktopFileName(ProgramName);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/moravel/icon.svg")));
+    QApplication::setQuitOnLastWindowClosed(false); // the main window quits, and it may be hidden
     const auto options = parseOptions(QApplication::arguments().mid(1));
     if (const auto code = answeredAtOnce(options))
         return *code;

@@ -42,6 +42,8 @@ struct DesktopPorts
     /// Restores the deleted picture of a cell.
     std::function<void(ThumbView &)> reloadDeletedPic;
 
+    /// Why the desktop may not be changed now unless the user asks for it; empty when it may.
+    std::function<QString()> whyNotNow;
     /// Shows when the desktop changes next.
     std::function<void(const QString &text)> showNextChange;
     std::function<void(bool visible)> showKeepButton;

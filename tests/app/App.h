@@ -73,6 +73,7 @@ public:
     }
 
     bool down = false;
+    bool hasTray = false;
     QStringList others; ///< What the rest of the desktop was asked for.
     FakeMainLoop loop;
     FakeHttp http;
@@ -90,6 +91,8 @@ public:
 
 private:
     void setImage(const QImage &) override { }
+
+    bool isShown() const override { return hasTray; }
 
     void openDesktopSettings(std::function<void(const QString &)> done) override
     {
