@@ -45,8 +45,11 @@ public:
         m_ports.reloadDeletedPic = std::move(reload);
     }
 
-    /// Enters what tells why the desktop may not be changed unasked.
-    void setWhyNotNow(std::function<QString()> why) { m_ports.whyNotNow = std::move(why); }
+    /// For what is tied later.
+    DesktopPorts &ports() { return m_ports; }
+
+    /// Paths of the pictures on the screens, and of the one to which the user can go back.
+    QStringList shownPictures() const;
 
     GrowlAlert &growl() { return m_growl; }
 

@@ -51,6 +51,7 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     if (m_platform.trash)
         buildPictureActions(*m_platform.trash);
     buildQuiet();
+    buildDisk();
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -94,7 +95,33 @@ void MoravelAppDelegate::buildQuiet()
     m_quiet = std::make_unique<QuietSide>(m_platform, m_preferences, std::move(ports));
     m_ports.whyNotNow = [this] { return m_quiet->whyNoDownload(); };
     if (m_desktop)
-        m_desktop->setWhyNotNow([this] { return m_quiet->whyNoRotation(); });
+        m_desktop->ports().whyNotNow = [this] { return m_quiet->whyNoRotation(); };
+}
+
+void MoravelAppDelegate::buildDisk()
+{
+    DiskPorts ports;
+    ports.shownPictures = [this] {
+        QStringList paths{largePic().currentLargePicPath()};
+        return m_desktop ? paths + m_desktop->shownPictures() : paths;
+    };
+    ports.fetch = [this](ThumbView &cell) {
+        return m_service.downloads().largePicFilePathForThumb(cell);
+    };
+    ports.setDesktop = [this](const QString &path) {
+        if (m_desktop)
+            m_desktop->management().setToChosen(path);
+    };
+    m_disk = std::make_unique<DiskSide>(m_context, m_preferences, m_legacy, std::move(ports));
+    m_ports.isLetGo = [this](const QString &path) { return m_disk->isLetGo(path); };
+    m_ports.pictureArrived = [this](const QString &path) { m_disk->pictureArrived(path); };
+    if (!m_desktop)
+        return;
+    m_desktop->ports().userChose = [this](const QString &path) { m_disk->keep(path); };
+    m_desktop->ports().fetchForDesktop = [this](ThumbView &cell) {
+        if (m_disk->isLetGo(cell) || !m_quiet->whyNoDownload().isEmpty())
+            m_disk->fetchForDesktop(cell);
+    };
 }
 
 ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
@@ -106,8 +133,10 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
         };
     };
     ThumbCommands commands;
-    commands.refreshDataForThumb =
-        inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    commands.refreshDataForThumb = inTurn([this](ThumbView &cell) {
+        m_disk->wantBack(cell);
+        m_service.refreshDataForThumb(cell);
+    });
     commands.showLargePic = [this](ThumbView &cell) { // at once: it only looks
         const bool isDesktop = cell.tag() == ThumbView::DesktopTag;
         largePic().showLargePic(cell, isDesktop ? DoubleClick : 1);
@@ -190,6 +219,7 @@ void MoravelAppDelegate::buildWindow()
     largePic().ports().windowMade = follow("large");
     if (m_browser)
         m_browser->ports().windowMade = follow("browser");
+    m_disk->attachWindow(*m_window);
     m_start.attachWindow(*m_window);
     m_quiet->attachWindow(*m_window);
 }
@@ -219,6 +249,7 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
     m_preferences.readSizeSetting();
     m_preferences.readDesktopOptions();
     m_folders.removeLeftovers();
+    m_disk->start();
     logFolders();
     m_service.sources().getSources([this] {
         if (m_desktop && m_preferences.rotateFrequency() > 0)

@@ -3,6 +3,7 @@
 
 #include "app/BrowserSide.h"
 #include "app/DesktopSide.h"
+#include "app/DiskSide.h"
 #include "app/LargePicSide.h"
 #include "app/Options.h"
 #include "app/PictureActions.h"
@@ -70,6 +71,7 @@ private:
     void buildDesktop(const DesktopPlatform &desktop);
     void buildPictureActions(Trash &trash);
     void buildQuiet();
+    void buildDisk();
     void buildWindow();
     void startPass(double seconds);
     void logFolders();
@@ -99,6 +101,7 @@ private:
     std::unique_ptr<PictureActions> m_pictureActions;
     StartSide m_start;
     std::unique_ptr<QuietSide> m_quiet;
+    std::unique_ptr<DiskSide> m_disk;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

@@ -215,6 +215,7 @@ TEST(Options, commandLine)
               (QStringList{QStringLiteral("One"), QStringLiteral("Two words")}));
     EXPECT_EQ(parse("--command=next")->command, QStringLiteral("next"));
     EXPECT_EQ(parse("--command|hold")->action, Options::Action::Command);
+    EXPECT_TRUE(parse("--hidden")->hidden);
     EXPECT_FALSE(parse("--sources"));
     EXPECT_FALSE(parse("--command="));
     EXPECT_FALSE(parse("--frobnicate"));
