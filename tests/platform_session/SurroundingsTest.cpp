@@ -53,6 +53,8 @@ public:
             answer = m_values[message.path() + u' ' + message.arguments().value(0).toString()];
         else if (message.member() == u"GetSession")
             answer = QVariant::fromValue(QDBusObjectPath(QStringLiteral("/session/_32")));
+        else if (message.member() == u"GetStatus")
+            answer = QVariantMap{{QStringLiteral("metered"), true}};
         return connection.send(message.createReply(answer));
     }
 
@@ -88,6 +90,7 @@ const char Battery[] =
     "/org/freedesktop/UPower/devices/DisplayDevice org.freedesktop.UPower.Device";
 const char Profiles[] = "/net/hadess/PowerProfiles net.hadess.PowerProfiles";
 const char Network[] = "/org/freedesktop/NetworkManager org.freedesktop.NetworkManager";
+const char Portal[] = "/org/freedesktop/portal/desktop org.freedesktop.portal.PowerProfileMonitor";
 const char Session[] = "/session/_32 org.freedesktop.login1.Session";
 
 TEST_F(SurroundingsTest, followsTheBatteryAndItsSaver)
@@ -147,6 +150,16 @@ TEST_F(SurroundingsTest, followsLockAndFullScreen)
     const int before = changes;
     surroundings.setFullScreen(true);
     EXPECT_EQ(changes, before);
+}
+
+TEST_F(SurroundingsTest, asksThePortalInASandbox)
+{
+    {
+        Service portal(session.connection(), "org.freedesktop.portal.Desktop");
+        portal.set(Portal, "power-saver-enabled", true);
+        EXPECT_TRUE(becomes({.powerSaver = true, .metered = true}));
+    }
+    EXPECT_TRUE(becomes({}));
 }
 
 TEST_F(SurroundingsTest, believesOnlyTheServiceItself)

@@ -32,11 +32,16 @@ LinuxSurroundings::LinuxSurroundings(const QDBusConnection &systemBus,
     , m_network(systemBus,
                 place("org.freedesktop.NetworkManager", "/org/freedesktop/NetworkManager",
                       "org.freedesktop.NetworkManager"))
+    , m_portalPower(sessionBus,
+                    place("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                          "org.freedesktop.portal.PowerProfileMonitor"))
+    , m_portalNetwork(sessionBus)
     , m_lock(systemBus, sessionBus)
 {
     for (const BusProperties *one :
-         {&m_upower, &m_battery, &m_profiles, &m_olderProfiles, &m_network})
+         {&m_upower, &m_battery, &m_profiles, &m_olderProfiles, &m_network, &m_portalPower})
         connect(one, &BusProperties::changed, this, &LinuxSurroundings::update);
+    connect(&m_portalNetwork, &PortalNetwork::changed, this, &LinuxSurroundings::update);
     connect(&m_lock, &SessionLock::changed, this, &LinuxSurroundings::update);
 }
 
@@ -54,7 +59,8 @@ bool LinuxSurroundings::savesPower() const
         return false;
     const QString key = QStringLiteral("ActiveProfile");
     return m_profiles.value(key) == QStringLiteral("power-saver")
-        || m_olderProfiles.value(key) == QStringLiteral("power-saver");
+        || m_olderProfiles.value(key) == QStringLiteral("power-saver")
+        || m_portalPower.value(QStringLiteral("power-saver-enabled")).toBool();
 }
 
 bool LinuxSurroundings::isBatteryLow() const
@@ -70,7 +76,7 @@ bool LinuxSurroundings::isMetered() const
     constexpr uint Yes = 1;
     constexpr uint GuessYes = 3; // a telephone's connection, for one
     const uint metered = m_network.value(QStringLiteral("Metered")).toUInt();
-    return metered == Yes || metered == GuessYes;
+    return metered == Yes || metered == GuessYes || m_portalNetwork.isMetered();
 }
 
 // A network service that never had a connection may leave the network to somebody else.
