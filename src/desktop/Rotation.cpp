@@ -99,6 +99,8 @@ void Rotation::holdDesktopForOneHour()
     m_context.preferences.setRotateFrequency(HoldMinutes);
     setupNextDesktopRotate();
     m_context.preferences.readChangeFrequency();
+    if (m_context.ports.userChose) // who wants to look at it for an hour
+        m_context.ports.userChose(m_setter.currentDesktopPath());
 }
 
 void Rotation::setupNextDesktopRotate()
