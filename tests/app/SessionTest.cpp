@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 // The application as a guest of the session: started by it, quiet where it would disturb, and not too large.
 #include "App.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using namespace testing;
 
 class SessionTest : public ::testing::Test
 {
@@ -23,17 +17,17 @@ protected:
     static Options all(bool hidden = false)
     {
         Options options;
-        options.sources = QStringList{QStringLiteral("all")};
+        options.sources = QStringList{u"all"_s};
         options.hidden = hidden;
         return options;
     }
 
     QStringList pictures() const
     {
-        return QDir(home.path(QStringLiteral("Pictures/Moravel"))).entryList(QDir::Files);
+        return QDir(home.path(u"Pictures/Moravel"_s)).entryList(QDir::Files);
     }
 
-    const QStringList both{QStringLiteral("A.jpg"), QStringLiteral("B.jpg")};
+    const QStringList both{u"A.jpg"_s, u"B.jpg"_s};
     TempHome home;
 };
 
@@ -44,7 +38,7 @@ TEST_F(SessionTest, startsInTheTrayElseMinimised)
         app.hasTray = tray;
         app.run(10);
         EXPECT_FALSE(app.delegate.window().isVisible());
-        EXPECT_EQ(app.delegate.cells().at(0).captionField(), QStringLiteral("Caption A"));
+        EXPECT_EQ(app.delegate.cells().at(0).captionField(), u"Caption A"_s);
         app.run(10);
         EXPECT_EQ(app.delegate.window().isVisible(), !tray);
         EXPECT_EQ(app.delegate.window().isMinimized(), !tray);
@@ -66,9 +60,7 @@ TEST_F(SessionTest, windowsComeBackOnTheScreens)
         {
             App app(home, all());
             app.delegate.window().setGeometry(c.put);
-            app.delegate.window()
-                .findChild<QAction *>(QStringLiteral("sideBarMenuItem"))
-                ->trigger();
+            app.delegate.window().findChild<QAction *>(u"sideBarMenuItem"_s)->trigger();
             app.run(2); // and then the machine stops
         }
         App app(home, all());
@@ -88,7 +80,7 @@ TEST_F(SessionTest, staysQuietAndMakesUp)
     app.run(60);
     EXPECT_EQ(app.delegate.cells().at(0).captionField(), QString()) << "nobody has asked";
     EXPECT_TRUE(pictures().isEmpty());
-    app.delegate.window().findChild<QAction *>(QStringLiteral("quietMenuItem"))->trigger();
+    app.delegate.window().findChild<QAction *>(u"quietMenuItem"_s)->trigger();
     app.run(30);
     EXPECT_EQ(pictures(), both) << "the user does not want it so";
 }
@@ -99,12 +91,12 @@ TEST_F(SessionTest, fetchesWhatTheUserWantsAsDesktop)
     app.surroundings.set({.lowBattery = true});
     app.run(30);
     ThumbView &cell = app.delegate.cells().at(0);
-    EXPECT_EQ(cell.captionField(), QStringLiteral("Caption A"));
+    EXPECT_EQ(cell.captionField(), u"Caption A"_s);
     EXPECT_TRUE(pictures().isEmpty());
     cell.commands().setAsDesktop(cell);
     app.run(5);
     EXPECT_EQ(pictures(), both.first(1));
-    EXPECT_TRUE(app.pictures.shown[QStringLiteral("A")].endsWith(u"/A.jpg"));
+    EXPECT_TRUE(app.pictures.shown[u"A"_s].endsWith(u"/A.jpg"));
 }
 
 TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
@@ -115,25 +107,25 @@ TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
     chosen.commands().setAsDesktop(chosen);
     app.run(1);
     const auto show = [&app](const QString &url) {
-        return std::exchange(app.pictures.shown[QStringLiteral("A")], url);
+        return std::exchange(app.pictures.shown[u"A"_s], url);
     };
-    const QString before = show(QStringLiteral("file://localhost/other.jpg"));
+    const QString before = show(u"file://localhost/other.jpg"_s);
     for (const QString &name : both) // sparse
-        QFile::resize(home.path(QStringLiteral("Pictures/Moravel/") + name), 700LL << 20);
-    app.delegate.window().findChild<QAction *>(QStringLiteral("diskSpaceMenuItem"))->trigger();
-    auto *sheet = app.delegate.window().findChild<QDialog *>(QStringLiteral("diskSpaceSheet"));
+        QFile::resize(home.path(u"Pictures/Moravel/"_s + name), 700LL << 20);
+    app.delegate.window().findChild<QAction *>(u"diskSpaceMenuItem"_s)->trigger();
+    auto *sheet = app.delegate.window().findChild<QDialog *>(u"diskSpaceSheet"_s);
     ASSERT_TRUE(sheet);
     auto *limit = sheet->findChild<QComboBox *>();
-    limit->setCurrentText(QStringLiteral("1 GB"));
+    limit->setCurrentText(u"1 GB"_s);
     sheet->accept();
     MORAVEL_WAIT((app.run(0.1), pictures() == both.mid(1)));
-    EXPECT_TRUE(QFile::exists(home.path(QStringLiteral("Trash/files/A.jpg"))));
+    EXPECT_TRUE(QFile::exists(home.path(u"Trash/files/A.jpg"_s)));
 
     show(before);
     app.run(3700); // the next pass
     EXPECT_EQ(pictures(), both.mid(1));
     ThumbView &gone = app.delegate.cells().at(0);
-    EXPECT_EQ(gone.captionField(), QStringLiteral("Caption A"));
+    EXPECT_EQ(gone.captionField(), u"Caption A"_s);
     gone.commands().setAsDesktop(gone);
     app.run(5);
     EXPECT_EQ(pictures(), both);
@@ -141,4 +133,3 @@ TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
 }
 
 } // namespace
-} // namespace moravel

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/QuietRules.h"
 
+#include "support/Test.h"
+
 #include <QSet>
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
 TEST(QuietRules, sayWhyNothingHappensUnasked)
@@ -43,4 +42,3 @@ TEST(QuietRules, sayWhyNothingHappensUnasked)
 }
 
 } // namespace
-} // namespace moravel

@@ -140,9 +140,9 @@ TEST_F(Rotating, firstChangeComesHalfAMinuteAfterTheGrid)
 
 TEST_F(Rotating, aChangeThatHasToWaitIsMadeOnce)
 {
-    world.picture(QStringLiteral("a.jpg"));
-    world.picture(QStringLiteral("b.jpg"));
-    QString why = QStringLiteral("New desktop waits, since the screen is locked");
+    world.picture(u"a.jpg"_s);
+    world.picture(u"b.jpg"_s);
+    QString why = u"New desktop waits, since the screen is locked"_s;
     world.ports.whyNotNow = [&why] { return why; };
     world.preferences.setChangeFrequency(30);
     EXPECT_EQ(world.nextChange, u"New desktop in 30 minutes");
@@ -157,7 +157,7 @@ TEST_F(Rotating, aChangeThatHasToWaitIsMadeOnce)
     world.run(1);
     EXPECT_EQ(world.pictures.sets.size(), 1);
     EXPECT_NEAR(static_cast<double>(secondsLeft()), 1800, 2);
-    why = QStringLiteral("locked");
+    why = u"locked"_s;
     world.run(1801);
     rotate(RotateSender::TimerOrMenu); // the user wants one
     EXPECT_EQ(world.nextChange, u"New desktop in 30 minutes");

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PrivateBus.h"
 #include "support/FakePlatform.h"
-#include "support/TempHome.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/AutostartEntry.h"
 #include "platform/linux/session/AutostartPortal.h"
@@ -10,15 +9,13 @@
 #include "platform/linux/session/EndSignals.h"
 
 #include <QDBusContext>
+
 #include <csignal>
 
-namespace moravel {
 namespace {
 
-using namespace testing;
-
-const QString Name = QStringLiteral("/org.moravel.Moravel.desktop");
-const QStringList Command{QStringLiteral("/opt/my apps/moravel"), QStringLiteral("--hidden")};
+const QString Name = u"/org.moravel.Moravel.desktop"_s;
+const QStringList Command{u"/opt/my apps/moravel"_s, u"--hidden"_s};
 
 TEST(AutostartText, tellsAndChangesWhatDesktopsRead)
 {
@@ -44,16 +41,16 @@ TEST(AutostartText, tellsAndChangesWhatDesktopsRead)
         EXPECT_TRUE(startsWithSession(changedAutostart(entry, true, Command)));
         EXPECT_FALSE(startsWithSession(changedAutostart(entry, false, Command)));
     }
-    const QString own = QStringLiteral("[Desktop Entry]\nExec=x --mine\nX-KDE-y=z\n");
+    const QString own = u"[Desktop Entry]\nExec=x --mine\nX-KDE-y=z\n"_s;
     EXPECT_TRUE(changedAutostart(own, false, Command).contains(u"Exec=x --mine\nX-KDE-y=z\n"));
-    EXPECT_EQ(execLine({QStringLiteral("/a b/$c%"), QStringLiteral("\"\\"), QStringLiteral("-x")}),
-              QStringLiteral("\"/a b/\\\\$c%%\" \"\\\\\"\\\\\\\\\" -x"));
+    EXPECT_EQ(execLine({u"/a b/$c%"_s, u"\"\\"_s, u"-x"_s}),
+              u"\"/a b/\\\\$c%%\" \"\\\\\"\\\\\\\\\" -x"_s);
 }
 
 TEST(AutostartEntry, theUsersEntryCountsBeforeTheSystems)
 {
     TempHome home;
-    const QStringList folders{home.path(QStringLiteral("user")), home.path(QStringLiteral("all"))};
+    const QStringList folders{home.path(u"user"_s), home.path(u"all"_s)};
     AutostartEntry autostart(Command, folders);
     const auto set = [&autostart](bool on) {
         bool ok = false;
@@ -67,14 +64,14 @@ TEST(AutostartEntry, theUsersEntryCountsBeforeTheSystems)
     EXPECT_TRUE(set(false) && !autostart.isOn());
     EXPECT_FALSE(QFile::exists(folders[0] + Name)); // nothing is left behind
 
-    home.write(QStringLiteral("all") + Name, "[Desktop Entry]\nExec=theirs\n");
+    home.write(u"all"_s + Name, "[Desktop Entry]\nExec=theirs\n");
     EXPECT_TRUE(autostart.isOn());
     EXPECT_TRUE(set(false) && !autostart.isOn());
     EXPECT_TRUE(set(true) && autostart.isOn());
     EXPECT_TRUE(TempHome::read(folders[0] + Name).contains("Exec=theirs\n"));
 
-    home.write(QStringLiteral("file"), "in the way");
-    AutostartEntry failing(Command, {home.path(QStringLiteral("file"))});
+    home.write(u"file"_s, "in the way");
+    AutostartEntry failing(Command, {home.path(u"file"_s)});
     QString error;
     failing.setOn(true, [&error](const auto &result) { error = result.error(); });
     EXPECT_FALSE(error.isEmpty());
@@ -89,9 +86,9 @@ class FakePortal : public QObject, protected QDBusContext
 public:
     explicit FakePortal(QDBusConnection connection) : m_bus(connection)
     {
-        m_bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
+        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
                              QDBusConnection::ExportAllSlots);
-        m_bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
+        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
     }
 
     bool allows = true;
@@ -101,11 +98,11 @@ public Q_SLOTS:
 
     QDBusObjectPath RequestBackground(const QString &, const QVariantMap &options)
     {
-        commandLine = options.value(QStringLiteral("commandline")).toStringList();
-        const QString object = QStringLiteral("/answers/here");
-        QDBusMessage answer = QDBusMessage::createSignal(
-            object, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
-        const QString autostart = QStringLiteral("autostart");
+        commandLine = options.value(u"commandline"_s).toStringList();
+        const QString object = u"/answers/here"_s;
+        QDBusMessage answer =
+            QDBusMessage::createSignal(object, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        const QString autostart = u"autostart"_s;
         answer << uint(0) << QVariantMap{{autostart, allows && options.value(autostart).toBool()}};
         QMetaObject::invokeMethod(
             this, [this, answer] { m_bus.send(answer); }, Qt::QueuedConnection);
@@ -166,6 +163,5 @@ TEST(EndSignals, endOnTheMainLoop)
 }
 
 } // namespace
-} // namespace moravel
 
 #include "AutostartTest.moc"

@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "PrivateBus.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/linux/session/LinuxSurroundings.h"
 
 #include <QDBusVirtualObject>
 
-namespace moravel {
 namespace {
 
-using namespace testing;
-
-const QString Properties = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString Properties = u"org.freedesktop.DBus.Properties"_s;
 
 /// Any service with properties, for all of its objects.
 class Service : public QDBusVirtualObject
@@ -20,7 +17,7 @@ public:
     Service(const QDBusConnection &bus, const char *name)
         : m_bus(bus), m_name(QString::fromLatin1(name))
     {
-        m_bus.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
+        m_bus.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath);
         m_bus.registerService(m_name);
     }
 
@@ -32,7 +29,7 @@ public:
         const QString where = QString::fromLatin1(place);
         m_values[where].insert(QString::fromLatin1(key), value);
         QDBusMessage signal = QDBusMessage::createSignal(where.section(u' ', 0, 0), Properties,
-                                                         QStringLiteral("PropertiesChanged"));
+                                                         u"PropertiesChanged"_s);
         signal << where.section(u' ', 1) << QVariantMap{{QString::fromLatin1(key), value}}
                << QStringList();
         m_bus.send(signal);
@@ -41,8 +38,8 @@ public:
 
     void emitActive(const char *path, bool active)
     {
-        QDBusMessage signal = QDBusMessage::createSignal(QString::fromLatin1(path), m_name,
-                                                         QStringLiteral("ActiveChanged"));
+        QDBusMessage signal =
+            QDBusMessage::createSignal(QString::fromLatin1(path), m_name, u"ActiveChanged"_s);
         m_bus.send(signal << active);
     }
 
@@ -52,9 +49,9 @@ public:
         if (message.member() == u"GetAll")
             answer = m_values[message.path() + u' ' + message.arguments().value(0).toString()];
         else if (message.member() == u"GetSession")
-            answer = QVariant::fromValue(QDBusObjectPath(QStringLiteral("/session/_32")));
+            answer = QVariant::fromValue(QDBusObjectPath(u"/session/_32"_s));
         else if (message.member() == u"GetStatus")
-            answer = QVariantMap{{QStringLiteral("metered"), true}};
+            answer = QVariantMap{{u"metered"_s, true}};
         return connection.send(message.createReply(answer));
     }
 
@@ -96,8 +93,8 @@ const char Session[] = "/session/_32 org.freedesktop.login1.Session";
 TEST_F(SurroundingsTest, followsTheBatteryAndItsSaver)
 {
     auto profiles = std::make_unique<Service>(system.connection(), "net.hadess.PowerProfiles");
-    profiles->set(Profiles, "ActiveProfile", QStringLiteral("balanced"));
-    profiles->set(Profiles, "ActiveProfile", QStringLiteral("power-saver"));
+    profiles->set(Profiles, "ActiveProfile", u"balanced"_s);
+    profiles->set(Profiles, "ActiveProfile", u"power-saver"_s);
     EXPECT_TRUE(becomes({.powerSaver = true}));
     Service upower(system.connection(), "org.freedesktop.UPower");
     upower.set(Daemon, "OnBattery", false);
@@ -173,4 +170,3 @@ TEST_F(SurroundingsTest, believesOnlyTheServiceItself)
 }
 
 } // namespace
-} // namespace moravel

@@ -110,7 +110,7 @@ TEST_F(Pass, waitsWhereNobodyAskedAndMakesUpOnce)
 {
     QString why = u"since the connection is metered"_s;
     w.ports.whyNotNow = [&why] { return why; };
-    const auto downloads = [&w] { return QDir(w.pictureFolder()).entryList(QDir::Files).size(); };
+    const auto downloads = [this] { return QDir(w.pictureFolder()).entryList(QDir::Files).size(); };
     w.startPass(); // the user has asked for the day, not for its large pictures
     EXPECT_EQ(w.http.posts().size(), 3);
     EXPECT_EQ(downloads(), 0);

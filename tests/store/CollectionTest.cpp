@@ -2,16 +2,12 @@
 #include "store/Collection.h"
 
 #include "StoreWorld.h"
+#include "support/Test.h"
 
 #include "store/Folders.h"
 #include "store/NameList.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using namespace testing;
 
 QStringList names(const std::vector<SparePicture> &pictures)
 {
@@ -33,14 +29,14 @@ CollectionFacts facts()
                     "20110706\tB\thttp://x/t.jpg\t/home/mine.jpg\t\tc\ti\n"
                     "20110706\tB\thttp://x/t.jpg\thttp://x/missing.jpg\t\tc\ti\n"
                     "broken\n";
-    facts.legacy = QStringLiteral("20080101\tLong A\told.jpg\tc\r");
+    facts.legacy = u"20080101\tLong A\told.jpg\tc\r"_s;
     for (const char *name :
          {"a2.jpg", "a1.jpg", "view.jpg", "kept.jpg", "ownthumb.jpg", "mine.jpg", "old.jpg"})
         facts.pictures.push_back({QString::fromLatin1(name), 100, 50});
-    facts.pictures.push_back({QStringLiteral("holiday.jpg"), 7, 1});
+    facts.pictures.push_back({u"holiday.jpg"_s, 7, 1});
     facts.pictures[0].modified = 90; // of the older day, but fetched later
-    facts.thumbs = {{QStringLiteral("t1.jpg"), 3, 0}, {QStringLiteral("t2.jpg"), 4, 0}};
-    facts.sourceNames = {{QStringLiteral("A"), QStringLiteral("Long A")}};
+    facts.thumbs = {{u"t1.jpg"_s, 3, 0}, {u"t2.jpg"_s, 4, 0}};
+    facts.sourceNames = {{u"A"_s, u"Long A"_s}};
     return facts;
 }
 
@@ -48,9 +44,9 @@ TEST(Collection, countsEachFileOnceForItsSource)
 {
     const Collection all = collectionOf(facts());
     ASSERT_EQ(all.sources.size(), 2U);
-    EXPECT_EQ(all.sources[0].source, QStringLiteral("B"));
+    EXPECT_EQ(all.sources[0].source, u"B"_s);
     EXPECT_EQ(all.sources[0].files, 4);
-    EXPECT_EQ(all.sources[1].source, QStringLiteral("Long A"));
+    EXPECT_EQ(all.sources[1].source, u"Long A"_s);
     EXPECT_EQ(all.sources[1].bytes, 300);
     EXPECT_EQ(all.pictures.bytes, 700);
     EXPECT_EQ(all.thumbs.bytes, 7);
@@ -61,8 +57,8 @@ TEST(Collection, countsEachFileOnceForItsSource)
 
 TEST(Collection, letsTheOldestGoThatCanComeBack)
 {
-    const QString a1 = QStringLiteral("a1.jpg"), a2 = QStringLiteral("a2.jpg");
-    const QString view = QStringLiteral("view.jpg");
+    const QString a1 = u"a1.jpg"_s, a2 = u"a2.jpg"_s;
+    const QString view = u"view.jpg"_s;
 
     const struct
     {
@@ -86,11 +82,11 @@ TEST(NameList, isKept)
 {
     StoreWorld world;
     const auto path = [&world] { return world.folders.letGoFile(); };
-    const QStringList both{QStringLiteral("b ü.jpg"), QStringLiteral("a.jpg")};
+    const QStringList both{u"b ü.jpg"_s, u"a.jpg"_s};
     {
         NameList list(world.files, path);
         EXPECT_TRUE(list.names().isEmpty());
-        list.insert(both + QStringList{QString(), QStringLiteral("two\nlines")});
+        list.insert(both + QStringList{QString(), u"two\nlines"_s});
     }
     NameList list(world.files, path);
     EXPECT_EQ(list.names(), QSet<QString>(both.begin(), both.end()));
@@ -100,4 +96,3 @@ TEST(NameList, isKept)
 }
 
 } // namespace
-} // namespace moravel
