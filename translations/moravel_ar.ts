@@ -482,6 +482,50 @@ Double-click to un-delete.</source>
 
 انقر نقرًا مزدوجًا لاستعادتها.</translation>
     </message>
+    <message>
+        <source>the screen is locked</source>
+        <translation>الشاشة مقفلة</translation>
+    </message>
+    <message>
+        <source>another program fills the screen</source>
+        <translation>برنامجًا آخر يملأ الشاشة</translation>
+    </message>
+    <message>
+        <source>the connection is metered</source>
+        <translation>الاتصال محدود</translation>
+    </message>
+    <message>
+        <source>the battery is being saved</source>
+        <translation>البطارية في وضع التوفير</translation>
+    </message>
+    <message>
+        <source>the battery is low</source>
+        <translation>البطارية منخفضة</translation>
+    </message>
+    <message>
+        <source>there is no connection</source>
+        <translation>لا يوجد اتصال</translation>
+    </message>
+    <message>
+        <source>New pictures wait, since %1.</source>
+        <translation>تنتظر الصور الجديدة لأن %1.</translation>
+    </message>
+    <message>
+        <source>New desktop waits, since %1</source>
+        <translation>تنتظر الخلفية الجديدة لأن %1</translation>
+    </message>
+    <message>
+        <source>Another request came first.</source>
+        <translation>سبقه طلب آخر.</translation>
+    </message>
+    <message>
+        <source>Pictures of the day on your desktop from the start.</source>
+        <translation>صور اليوم على سطح مكتبك منذ البداية.</translation>
+    </message>
+    <message>
+        <source>The desktop did not allow it.</source>
+        <translation>لم تسمح بيئة سطح المكتب بذلك.</translation>
+    </message>
 </context>
 <context>
     <name>moravel::Browser</name>
@@ -697,6 +741,80 @@ Double-click to un-delete.</source>
     </message>
 </context>
 <context>
+    <name>moravel::DiskSide</name>
+    <message>
+        <source>&amp;Disk Space…</source>
+        <translation>مساحة ال&amp;قرص…</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::DiskSpaceSheet</name>
+    <message>
+        <source>Disk space by source</source>
+        <translation>مساحة القرص حسب المصدر</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>المصدر</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Disk Space</source>
+        <translation>مساحة القرص</translation>
+    </message>
+    <message>
+        <source>Looking at the pictures…</source>
+        <translation>جارٍ النظر في الصور…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the pictures below:</source>
+        <translation>إبقاء الصور &amp;دون:</translation>
+    </message>
+    <message>
+        <source>No Limit</source>
+        <translation>بلا حد</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 غ.ب</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>المصغّرات</translation>
+    </message>
+    <message>
+        <source>Other files in the folder</source>
+        <translation>ملفات أخرى في المجلد</translation>
+    </message>
+    <message>
+        <source>All pictures stay.</source>
+        <translation>تبقى جميع الصور.</translation>
+    </message>
+    <message>
+        <source>All pictures stay for now.</source>
+        <translation>تبقى جميع الصور حاليًا.</translation>
+    </message>
+    <message>
+        <source>What you set as desktop stays, and so do thumbnails and captions. A picture that went comes back when you open it.</source>
+        <translation>تبقى الصور التي جعلتها خلفية، وكذلك المصغّرات والتعليقات. والصورة التي أُزيلت تعود عند فتحها.</translation>
+    </message>
+    <message>
+        <source>The collection takes %1. Full pictures: %2 (%3).</source>
+        <translation>تشغل المجموعة %1. الصور الكاملة: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Oldest pictures that go to the Trash now: %1 (%2).</source>
+        <translation>أقدم الصور التي تُنقل الآن إلى المهملات: %1 (%2).</translation>
+    </message>
+</context>
+<context>
     <name>moravel::GridPanel</name>
     <message>
         <source>The picture service does not answer</source>
@@ -816,6 +934,17 @@ Double-click to un-delete.</source>
     </message>
 </context>
 <context>
+    <name>moravel::QuietSide</name>
+    <message>
+        <source>Stay Quiet &amp;When Needed</source>
+        <translation>الهدوء عند ال&amp;حاجة</translation>
+    </message>
+    <message>
+        <source>On a low or saved battery, on a metered connection, while another program fills the screen and while it is locked, nothing is fetched and the desktop stays.</source>
+        <translation>عند انخفاض البطارية أو توفيرها، أو عند الاتصال المحدود، أو حين يملأ برنامج آخر الشاشة أو تكون مقفلة، لا يُجلب شيء وتبقى الخلفية.</translation>
+    </message>
+</context>
+<context>
     <name>moravel::ShareSide</name>
     <message>
         <source>There is no news.</source>
@@ -856,6 +985,17 @@ Double-click to un-delete.</source>
     <message>
         <source>Double-click to hide or show the side bar.</source>
         <translation>انقر نقرًا مزدوجًا لإخفاء الشريط الجانبي أو إظهاره.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::StartSide</name>
+    <message>
+        <source>Start at &amp;Login</source>
+        <translation>البدء عند تسجيل ال&amp;دخول</translation>
+    </message>
+    <message>
+        <source>Error changing the start at login.</source>
+        <translation>خطأ في تغيير البدء عند تسجيل الدخول.</translation>
     </message>
 </context>
 <context>

@@ -470,6 +470,50 @@ Double-click to un-delete.</source>
 
 Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
+    <message>
+        <source>the screen is locked</source>
+        <translation>der Bildschirm gesperrt ist</translation>
+    </message>
+    <message>
+        <source>another program fills the screen</source>
+        <translation>ein anderes Programm den Bildschirm füllt</translation>
+    </message>
+    <message>
+        <source>the connection is metered</source>
+        <translation>die Verbindung getaktet ist</translation>
+    </message>
+    <message>
+        <source>the battery is being saved</source>
+        <translation>der Akku geschont wird</translation>
+    </message>
+    <message>
+        <source>the battery is low</source>
+        <translation>der Akku fast leer ist</translation>
+    </message>
+    <message>
+        <source>there is no connection</source>
+        <translation>keine Verbindung besteht</translation>
+    </message>
+    <message>
+        <source>New pictures wait, since %1.</source>
+        <translation>Neue Bilder warten, da %1.</translation>
+    </message>
+    <message>
+        <source>New desktop waits, since %1</source>
+        <translation>Das nächste Hintergrundbild wartet, da %1</translation>
+    </message>
+    <message>
+        <source>Another request came first.</source>
+        <translation>Eine andere Anfrage kam zuvor.</translation>
+    </message>
+    <message>
+        <source>Pictures of the day on your desktop from the start.</source>
+        <translation>Bilder des Tages auf dem Schreibtisch, von Anfang an.</translation>
+    </message>
+    <message>
+        <source>The desktop did not allow it.</source>
+        <translation>Die Arbeitsumgebung hat es nicht erlaubt.</translation>
+    </message>
 </context>
 <context>
     <name>moravel::Browser</name>
@@ -681,6 +725,80 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
 </context>
 <context>
+    <name>moravel::DiskSide</name>
+    <message>
+        <source>&amp;Disk Space…</source>
+        <translation>Speicher&amp;platz&#xa0;…</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::DiskSpaceSheet</name>
+    <message>
+        <source>Disk space by source</source>
+        <translation>Speicherplatz nach Quelle</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Disk Space</source>
+        <translation>Speicherplatz</translation>
+    </message>
+    <message>
+        <source>Looking at the pictures…</source>
+        <translation>Die Bilder werden gezählt&#xa0;…</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the pictures below:</source>
+        <translation>&amp;Höchstens für die Bilder:</translation>
+    </message>
+    <message>
+        <source>No Limit</source>
+        <translation>Unbegrenzt</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>Thumbnails</source>
+        <translation>Vorschaubilder</translation>
+    </message>
+    <message>
+        <source>Other files in the folder</source>
+        <translation>Andere Dateien im Ordner</translation>
+    </message>
+    <message>
+        <source>All pictures stay.</source>
+        <translation>Alle Bilder bleiben.</translation>
+    </message>
+    <message>
+        <source>All pictures stay for now.</source>
+        <translation>Vorerst bleiben alle Bilder.</translation>
+    </message>
+    <message>
+        <source>What you set as desktop stays, and so do thumbnails and captions. A picture that went comes back when you open it.</source>
+        <translation>Was Sie als Hintergrundbild gewählt haben, bleibt, ebenso Vorschaubilder und Bildtexte. Ein entferntes Bild kommt wieder, wenn Sie es öffnen.</translation>
+    </message>
+    <message>
+        <source>The collection takes %1. Full pictures: %2 (%3).</source>
+        <translation>Die Sammlung belegt %1. Volle Bilder: %2 (%3).</translation>
+    </message>
+    <message>
+        <source>Oldest pictures that go to the Trash now: %1 (%2).</source>
+        <translation>Älteste Bilder, die jetzt in den Papierkorb kommen: %1 (%2).</translation>
+    </message>
+</context>
+<context>
     <name>moravel::GridPanel</name>
     <message>
         <source>The picture service does not answer</source>
@@ -800,6 +918,17 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
 </context>
 <context>
+    <name>moravel::QuietSide</name>
+    <message>
+        <source>Stay Quiet &amp;When Needed</source>
+        <translation>Bei Be&amp;darf zurückhalten</translation>
+    </message>
+    <message>
+        <source>On a low or saved battery, on a metered connection, while another program fills the screen and while it is locked, nothing is fetched and the desktop stays.</source>
+        <translation>Bei schwachem oder geschontem Akku, bei getakteter Verbindung, und während ein anderes Programm den Bildschirm füllt oder dieser gesperrt ist, wird nichts geladen, und das Hintergrundbild bleibt.</translation>
+    </message>
+</context>
+<context>
     <name>moravel::ShareSide</name>
     <message>
         <source>There is no news.</source>
@@ -840,6 +969,17 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     <message>
         <source>Double-click to hide or show the side bar.</source>
         <translation>Ein Doppelklick verbirgt oder zeigt die Seitenleiste.</translation>
+    </message>
+</context>
+<context>
+    <name>moravel::StartSide</name>
+    <message>
+        <source>Start at &amp;Login</source>
+        <translation>Bei der &amp;Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Error changing the start at login.</source>
+        <translation>Fehler beim Ändern des Starts bei der Anmeldung.</translation>
     </message>
 </context>
 <context>

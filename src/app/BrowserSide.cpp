@@ -19,21 +19,14 @@ BrowserSide::BrowserSide(const ServiceContext &context, LegacyCaptions &legacy,
                  preferences, context.cells, context.sourceNames, context.folders, legacy,
                  context.records, context.updates, context.links, m_ports, m_look})
 {
-    m_pool.setMaxThreadCount(1);
     fillPorts(context, desktop);
     fillLook();
-}
-
-BrowserSide::~BrowserSide()
-{
-    m_pool.clear();
-    m_pool.waitForDone();
 }
 
 void BrowserSide::fillPorts(const ServiceContext &context, DesktopSide *desktop)
 {
     m_ports.inBackground = [this](std::function<void()> work, std::function<void()> done) {
-        inBackground(std::move(work), std::move(done));
+        m_worker.run(std::move(work), std::move(done));
     };
     m_ports.sufficientData = [](const QStringList &fields) { return sufficientData(fields); };
     m_ports.optionKeyHeld = [] {
@@ -43,7 +36,7 @@ void BrowserSide::fillPorts(const ServiceContext &context, DesktopSide *desktop)
         return;
     MainLoop &loop = context.platform.loop;
     m_ports.setDesktopToFile = [&loop, desktop](const QString &path) {
-        loop.inOrder([desktop, path] { desktop->management().setter().setDesktopToFile(path); });
+        loop.inOrder([desktop, path] { desktop->management().setToChosen(path); });
     };
     m_ports.rotateDesktop = [desktop] {
         desktop->management().rotation().rotateDesktop(RotateSender::Button);
@@ -64,14 +57,6 @@ void BrowserSide::fillLook()
     m_look.icon = themedIcon;
     m_look.pixmap = iconPixmap;
     m_look.lightPalette = FlippedClipView::lightPalette;
-}
-
-void BrowserSide::inBackground(std::function<void()> work, std::function<void()> done)
-{
-    m_pool.start([this, work = std::move(work), done = std::move(done)] {
-        work();
-        QMetaObject::invokeMethod(&m_mainThread, done, Qt::QueuedConnection);
-    });
 }
 
 void BrowserSide::attachWindow(MainWindow &window)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Worker.h"
 #include "browser/Browser.h"
 #include "service/ServiceContext.h"
-
-#include <QThreadPool>
 
 namespace moravel {
 
@@ -23,7 +22,6 @@ public:
     /// desktop is offered.
     BrowserSide(const ServiceContext &context, LegacyCaptions &legacy, Preferences &preferences,
                 Thumbnails &thumbnails, DesktopSide *desktop);
-    ~BrowserSide() override;
 
     /// Offers deletion; before the browser is opened.
     void setTrash(std::function<void(const QStringList &paths, std::function<void()> done)> move);
@@ -31,18 +29,19 @@ public:
     /// Adds the command to the window's View menu.
     void attachWindow(MainWindow &window);
 
+    /// For what is tied later: a port counts from the first showing on.
+    BrowserPorts &ports() { return m_ports; }
+
     Browser &browser() { return m_browser; }
 
 private:
     void fillPorts(const ServiceContext &context, DesktopSide *desktop);
     void fillLook();
-    void inBackground(std::function<void()> work, std::function<void()> done);
 
     BrowserPorts m_ports;
     BrowserLook m_look;
     Browser m_browser;
-    QObject m_mainThread; ///< Receives the answers; those still posted go with it.
-    QThreadPool m_pool; ///< One thread.
+    Worker m_worker;
 };
 
 } // namespace moravel

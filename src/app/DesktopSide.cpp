@@ -3,6 +3,7 @@
 
 #include "app/Question.h"
 #include "app/RemoteActions.h"
+#include "desktop/DesktopUrls.h"
 #include "service/PictureFields.h"
 
 #include <QApplication>
@@ -35,7 +36,7 @@ DesktopSide::DesktopSide(const ServiceContext &context, Preferences &preferences
     , m_management({context.platform, *platform.pictures, context.dates, preferences, context.cells,
                     context.folders, context.records, context.links, m_ports})
     , m_growl(platform.notifications,
-              [this](const QString &path) { m_management.setter().setDesktopToFile(path); })
+              [this](const QString &path) { m_management.setToChosen(path); })
     , m_preferences(preferences)
 {
     fillServicePorts(service);
@@ -115,6 +116,15 @@ void DesktopSide::attachWindow(MainWindow &window)
     m_menu = std::make_unique<DesktopMenu>(window.desktopMenu(), m_preferences, std::move(ports));
     connect(&window.sideBar(), &SideBar::keepButtonClicked, this,
             [this] { m_management.rotation().holdDesktopForOneHour(); });
+}
+
+QStringList DesktopSide::shownPictures() const
+{
+    QStringList paths{m_management.currentDesktopPath(),
+                      desktopPathFromUrl(m_management.setter().previousDesktopPath())};
+    for (const DesktopScreen &screen : m_platform.pictures->screens())
+        paths.append(desktopPathFromUrl(m_platform.pictures->desktopImageUrl(screen.id)));
+    return paths;
 }
 
 void DesktopSide::showIcon(const QImage &image)

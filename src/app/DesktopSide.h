@@ -45,7 +45,15 @@ public:
         m_ports.reloadDeletedPic = std::move(reload);
     }
 
+    /// For what is tied later.
+    DesktopPorts &ports() { return m_ports; }
+
+    /// Paths of the pictures on the screens, and of the one to which the user can go back.
+    QStringList shownPictures() const;
+
     GrowlAlert &growl() { return m_growl; }
+
+    const Tray &tray() const { return m_platform.tray; }
 
     Workspace &workspace() { return m_platform.workspace; }
 

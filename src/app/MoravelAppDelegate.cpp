@@ -41,6 +41,7 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
                 m_folders,  m_records, m_updates,    m_links, m_ports}
     , m_service(m_context, share.addresses.home)
     , m_share(m_context, m_preferences, m_service, share, desktop ? desktop->pictures : nullptr)
+    , m_start(m_platform, m_preferences)
 {
     m_ports.showStatus = [this](const QString &text) { showStatus(text); };
     m_ports.loadNews = [this] { m_service.news().loadNews(); };
@@ -50,6 +51,8 @@ MoravelAppDelegate::MoravelAppDelegate(const Platform &platform,
     m_ports.largePic = m_largePic.get();
     if (m_platform.trash)
         buildPictureActions(*m_platform.trash);
+    buildQuiet();
+    buildDisk();
 }
 
 MoravelAppDelegate::~MoravelAppDelegate() = default;
@@ -81,6 +84,47 @@ void MoravelAppDelegate::buildPictureActions(Trash &trash)
     };
 }
 
+void MoravelAppDelegate::buildQuiet()
+{
+    QuietPorts ports;
+    ports.catchUpDownloads = [this] { m_service.catchUp(); };
+    ports.connectionIsBack = [this] { m_service.connectionIsBack(); };
+    ports.catchUpRotation = [this] {
+        if (m_desktop)
+            m_desktop->management().rotation().catchUp();
+    };
+    m_quiet = std::make_unique<QuietSide>(m_platform, m_preferences, std::move(ports));
+    m_ports.whyNotNow = [this] { return m_quiet->whyNoDownload(); };
+    if (m_desktop)
+        m_desktop->ports().whyNotNow = [this] { return m_quiet->whyNoRotation(); };
+}
+
+void MoravelAppDelegate::buildDisk()
+{
+    DiskPorts ports;
+    ports.shownPictures = [this] {
+        QStringList paths{largePic().currentLargePicPath()};
+        return m_desktop ? paths + m_desktop->shownPictures() : paths;
+    };
+    ports.fetch = [this](ThumbView &cell) {
+        return m_service.downloads().largePicFilePathForThumb(cell);
+    };
+    ports.setDesktop = [this](const QString &path) {
+        if (m_desktop)
+            m_desktop->management().setToChosen(path);
+    };
+    m_disk = std::make_unique<DiskSide>(m_context, m_preferences, m_legacy, std::move(ports));
+    m_ports.isLetGo = [this](const QString &path) { return m_disk->isLetGo(path); };
+    m_ports.pictureArrived = [this](const QString &path) { m_disk->pictureArrived(path); };
+    if (!m_desktop)
+        return;
+    m_desktop->ports().userChose = [this](const QString &path) { m_disk->keep(path); };
+    m_desktop->ports().fetchForDesktop = [this](ThumbView &cell) {
+        if (m_disk->isLetGo(cell) || !m_quiet->whyNoDownload().isEmpty())
+            m_disk->fetchForDesktop(cell);
+    };
+}
+
 ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
 {
     // A command that comes while the program waits for an answer takes its turn after it.
@@ -90,8 +134,10 @@ ThumbCommands MoravelAppDelegate::commands(bool withDesktop)
         };
     };
     ThumbCommands commands;
-    commands.refreshDataForThumb =
-        inTurn([this](ThumbView &cell) { m_service.refreshDataForThumb(cell); });
+    commands.refreshDataForThumb = inTurn([this](ThumbView &cell) {
+        m_disk->wantBack(cell);
+        m_service.refreshDataForThumb(cell);
+    });
     commands.showLargePic = [this](ThumbView &cell) { // at once: it only looks
         const bool isDesktop = cell.tag() == ThumbView::DesktopTag;
         largePic().showLargePic(cell, isDesktop ? DoubleClick : 1);
@@ -141,10 +187,7 @@ void MoravelAppDelegate::buildWindow()
         return true;
     };
     SourceGridPorts ports;
-    ports.startPass = [this](double seconds) {
-        if (m_cells.count() > 0) // without cells there is no pass, and nothing to say of it
-            m_service.thumbPass().restart(seconds);
-    };
+    ports.startPass = [this](double seconds) { startPass(seconds); };
     ports.retry = [this] { askForSourcesAgain(); };
     if (m_thumbnails) {
         m_browser = std::make_unique<BrowserSide>(m_context, m_legacy, m_preferences, *m_thumbnails,
@@ -169,6 +212,36 @@ void MoravelAppDelegate::buildWindow()
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
     m_share.attachWindow(*m_window, *m_grid);
+    const auto follow = [this](const char *name) {
+        return [this, name](QWidget &window) {
+            m_start.places().follow(window, QString::fromLatin1(name));
+        };
+    };
+    largePic().ports().windowMade = follow("large");
+    if (m_browser)
+        m_browser->ports().windowMade = follow("browser");
+    m_disk->attachWindow(*m_window);
+    m_start.attachWindow(*m_window);
+    m_quiet->attachWindow(*m_window);
+}
+
+// Without cells there is no pass, and nothing to say of it. Where nobody looks, nobody has asked.
+void MoravelAppDelegate::startPass(double seconds)
+{
+    if (m_cells.count() == 0)
+        return;
+    if (m_window->isVisible() && !m_window->isMinimized())
+        m_service.thumbPass().restart(seconds);
+    else
+        m_service.thumbPass().restartUnasked(seconds);
+}
+
+void MoravelAppDelegate::showWindow()
+{
+    if (m_options.hidden)
+        m_start.startHidden(m_desktop ? &m_desktop->tray() : nullptr);
+    else
+        m_window->show();
 }
 
 void MoravelAppDelegate::applicationDidFinishLaunching()
@@ -177,6 +250,7 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
     m_preferences.readSizeSetting();
     m_preferences.readDesktopOptions();
     m_folders.removeLeftovers();
+    m_disk->start();
     logFolders();
     m_service.sources().getSources([this] {
         if (m_desktop && m_preferences.rotateFrequency() > 0)
@@ -257,6 +331,12 @@ void MoravelAppDelegate::attachRemoteControl(RemoteControl &control)
 void MoravelAppDelegate::applicationShouldTerminate()
 {
     m_service.downloads().cancelAll();
+    saveOpenState();
+}
+
+void MoravelAppDelegate::saveOpenState()
+{
+    m_start.places().save();
 }
 
 void MoravelAppDelegate::showStatus(const QString &text)

@@ -3,10 +3,13 @@
 
 #include "app/BrowserSide.h"
 #include "app/DesktopSide.h"
+#include "app/DiskSide.h"
 #include "app/LargePicSide.h"
 #include "app/Options.h"
 #include "app/PictureActions.h"
+#include "app/QuietSide.h"
 #include "app/ShareSide.h"
+#include "app/StartSide.h"
 #include "base/DatePicker.h"
 #include "base/Dates.h"
 #include "base/Preferences.h"
@@ -37,12 +40,17 @@ public:
                        const ShareSetup &share, Options options, Thumbnails *thumbnails = nullptr);
     ~MoravelAppDelegate() override;
 
-    /// Prepares the window; it can be shown then.
+    /// Prepares the window; showWindow() can show it then.
     void applicationWillFinishLaunching();
+    /// Shows the window, unless the program is to start without it.
+    void showWindow();
     /// Reads the preferences, asks for the sources, and starts the day. Once, after the window is shown.
     void applicationDidFinishLaunching();
     /// Ends what must not be left half done; the application then quits.
     void applicationShouldTerminate();
+
+    /// Keeps what would be lost if the program ended without a word: the session is about to.
+    void saveOpenState();
 
     /// Answers requests of other processes from now on; after applicationWillFinishLaunching().
     void attachRemoteControl(RemoteControl &control);
@@ -62,7 +70,10 @@ private:
     ThumbCommands commands(bool withDesktop);
     void buildDesktop(const DesktopPlatform &desktop);
     void buildPictureActions(Trash &trash);
+    void buildQuiet();
+    void buildDisk();
     void buildWindow();
+    void startPass(double seconds);
     void logFolders();
     void sourcesAreKnown();
     void askForSourcesAgain();
@@ -88,6 +99,9 @@ private:
     std::unique_ptr<DesktopSide> m_desktop;
     ShareSide m_share;
     std::unique_ptr<PictureActions> m_pictureActions;
+    StartSide m_start;
+    std::unique_ptr<QuietSide> m_quiet;
+    std::unique_ptr<DiskSide> m_disk;
     std::unique_ptr<DateNavigation> m_dateNavigation;
     std::unique_ptr<ToolTips> m_toolTips;
     std::unique_ptr<MainWindow> m_window;

@@ -34,6 +34,8 @@ QString takeOption(Options &options, const QStringList &arguments, qsizetype &i)
         options.action = Options::Action::PrintHelp;
     } else if (name == u"--json") {
         options.json = true;
+    } else if (name == u"--hidden") {
+        options.hidden = true;
     } else if (name == u"--sources") {
         const bool inOne = arguments[i].contains(u'=');
         const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
@@ -94,13 +96,14 @@ tl::expected<Options, QString> parseOptions(const QStringList &arguments)
 
 QString helpText()
 {
-    return QStringLiteral(R"(Usage: moravel [--sources LIST]
+    return QStringLiteral(R"(Usage: moravel [--sources LIST] [--hidden]
   or:  moravel COMMAND
 Shows the pictures of the day of many sources and keeps them in your Pictures folder.
 
 Options:
   --sources LIST  switch these sources on and remember it: long names with commas between,
                   or all
+  --hidden        start without the window, in the tray (minimised where there is none)
   --json          with current: answer in JSON
   -h, --help      show this text
   --version       show the version and the address of the service

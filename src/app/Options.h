@@ -16,6 +16,7 @@ struct Options
     Action action = Action::Run;
     /// Sources to switch on, by long name; one entry "all" means every source.
     std::optional<QStringList> sources;
+    bool hidden = false; ///< Start without the window, in the tray.
     QString command; ///< For the running program.
     QStringList arguments; ///< Of the command.
     bool json = false; ///< The command's answer as JSON.

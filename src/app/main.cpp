@@ -6,9 +6,14 @@
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
+#include "platform/linux/desktops/FullScreenWatch.h"
 #include "platform/linux/session/Activation.h"
+#include "platform/linux/session/AutostartEntry.h"
+#include "platform/linux/session/AutostartPortal.h"
 #include "platform/linux/session/DBusNotifications.h"
+#include "platform/linux/session/EndSignals.h"
 #include "platform/linux/session/GioPrograms.h"
+#include "platform/linux/session/LinuxSurroundings.h"
 #include "platform/linux/session/LinuxWorkspace.h"
 #include "platform/linux/session/LocalService.h"
 #include "platform/linux/session/ProgramInstance.h"
@@ -31,6 +36,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QLocale>
+#include <QSessionManager>
 
 #include <cstdio>
 
@@ -123,6 +129,8 @@ int runCommand(int argc, char **argv, const QVariantMap &activation)
 tl::expected<void, RemoteError> handOver(const Options &options, const QVariantMap &activation)
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
+    if (options.hidden && !options.sources)
+        return {}; // it runs, and nobody asked to see it
     if (!options.sources)
         return askRunningProgram(bus, {}, {}, activation);
     return askRunningProgram(bus, remoteaction::Sources,
@@ -161,6 +169,49 @@ struct LinuxDesktop
     std::unique_ptr<DesktopPictures> pictures;
 };
 
+// The surroundings, with what only the window system knows. Wayland does not tell it.
+struct LinuxSession
+{
+    LinuxSession() : surroundings(QDBusConnection::systemBus(), QDBusConnection::sessionBus())
+    {
+        if (QGuiApplication::platformName() == u"xcb")
+            fullScreen = FullScreenWatch::start();
+        if (!fullScreen)
+            return;
+        fullScreen->onChanged = [this] { surroundings.setFullScreen(fullScreen->isFullScreen()); };
+        fullScreen->onChanged();
+    }
+
+    LinuxSurroundings surroundings;
+    std::unique_ptr<FullScreenWatch> fullScreen;
+};
+
+std::unique_ptr<Autostart> makeAutostart(Defaults &defaults)
+{
+    const QStringList arguments{QStringLiteral("--hidden")};
+    if (AutostartPortal::isNeeded())
+        return std::make_unique<AutostartPortal>(QDBusConnection::sessionBus(), defaults,
+                                                 QStringList{QStringLiteral("moravel")}
+                                                     + arguments);
+    return std::make_unique<AutostartEntry>(commandOfThisProgram(arguments));
+}
+
+// A session that starts its programs again must not start one that it starts at each login anyway.
+void tieSession(const QApplication &app, MoravelAppDelegate &delegate, const Autostart &autostart)
+{
+    QObject::connect(
+        &app, &QGuiApplication::commitDataRequest, &delegate,
+        [&delegate] { delegate.saveOpenState(); }, Qt::DirectConnection);
+    QObject::connect(
+        &app, &QGuiApplication::saveStateRequest, &delegate,
+        [&autostart](QSessionManager &session) {
+            session.setRestartHint(autostart.isOn() ? QSessionManager::RestartNever
+                                                    : QSessionManager::RestartIfRunning);
+            session.setRestartCommand(commandOfThisProgram({}));
+        },
+        Qt::DirectConnection);
+}
+
 ShareSetup shareSetup(UrlOpener &urls, Clipboard &clipboard)
 {
     return {urls,
@@ -198,14 +249,18 @@ int runApplication(QApplication &app, const Options &options, const QVariantMap 
          QCoreApplication::applicationDirPath() + QStringLiteral("/moravel-service"),
          QStringLiteral(MORAVEL_SERVICE_CONFIG)},
         loop);
-    MoravelAppDelegate delegate(
-        {loop, http, defaults, files, alerts, images, random, &trash, &programs}, desktop.lend(),
-        shareSetup(urls, clipboard), options, &thumbnails);
+    LinuxSession session;
+    const std::unique_ptr<Autostart> autostart = makeAutostart(defaults);
+    MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random, &trash,
+                                 &programs, &session.surroundings, autostart.get()},
+                                desktop.lend(), shareSetup(urls, clipboard), options, &thumbnails);
     QObject::connect(&app, &QCoreApplication::aboutToQuit, &delegate,
                      &MoravelAppDelegate::applicationShouldTerminate);
     delegate.applicationWillFinishLaunching();
     alerts.setParentWindow(&delegate.window());
-    delegate.window().show();
+    delegate.showWindow();
+    const EndSignals endSignals([] { QCoreApplication::quit(); });
+    tieSession(app, delegate, *autostart);
     // The window is on screen before the disk and the service are asked.
     loop.schedule(0, [&] {
         service.ensure([&] {
@@ -238,6 +293,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationVersion(QStringLiteral(MORAVEL_VERSION));
     QApplication::setDesktopFileName(ProgramName);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/moravel/icon.svg")));
+    QApplication::setQuitOnLastWindowClosed(false); // the main window quits, and it may be hidden
     const auto options = parseOptions(QApplication::arguments().mid(1));
     if (const auto code = answeredAtOnce(options))
         return *code;

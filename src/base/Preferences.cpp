@@ -16,6 +16,10 @@ const QString SpacesKey = QStringLiteral("SetAllSpaces");
 const QString ScreensKey = QStringLiteral("SetAllScreens");
 const QString TooltipsKey = QStringLiteral("HideTooltips");
 const QString FacebookKey = QStringLiteral("Facebook");
+const QString QuietKey = QStringLiteral("Quiet");
+const QString DiskLimitKey = QStringLiteral("DiskLimit");
+const QString SideBarKey = QStringLiteral("HideSideBar");
+const QString PlaceKey = QStringLiteral("Window-"); // and the window's name
 
 constexpr int AutoSizing =
     1000; // a stored 0 cannot be told from an absent value and means this too
@@ -117,6 +121,47 @@ bool Preferences::readFacebook() const
 void Preferences::saveFacebook(bool told)
 {
     m_defaults.setBoolean(FacebookKey, told);
+}
+
+bool Preferences::readQuiet() const
+{
+    return m_defaults.boolean(QuietKey).value_or(true);
+}
+
+void Preferences::saveQuiet(bool quiet)
+{
+    m_defaults.setBoolean(QuietKey, quiet);
+}
+
+int Preferences::readDiskLimit() const
+{
+    return std::max(0, readInt(m_defaults, DiskLimitKey));
+}
+
+void Preferences::saveDiskLimit(int gigabytes)
+{
+    m_defaults.setInteger(DiskLimitKey, gigabytes);
+}
+
+bool Preferences::readHideSideBar() const
+{
+    return m_defaults.boolean(SideBarKey).value_or(false);
+}
+
+void Preferences::saveHideSideBar(bool hide)
+{
+    m_defaults.setBoolean(SideBarKey, hide);
+}
+
+QByteArray Preferences::readWindowPlace(const QString &window) const
+{
+    const QStringList stored = m_defaults.list(PlaceKey + window).value_or(QStringList());
+    return QByteArray::fromBase64(stored.value(0).toLatin1());
+}
+
+void Preferences::saveWindowPlace(const QString &window, const QByteArray &place)
+{
+    m_defaults.setList(PlaceKey + window, {QString::fromLatin1(place.toBase64())});
 }
 
 } // namespace moravel

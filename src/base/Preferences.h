@@ -3,6 +3,7 @@
 
 #include "platform/Defaults.h"
 
+#include <QByteArray>
 #include <QObject>
 
 #include <functional>
@@ -45,6 +46,21 @@ public:
     /// Tells whether the user has been told what sharing on Facebook does.
     bool readFacebook() const;
     void saveFacebook(bool told);
+
+    /// Tells whether nothing is to be done unasked where it would disturb or cost (true when absent).
+    bool readQuiet() const;
+    void saveQuiet(bool quiet);
+
+    /// Most that the full pictures may take on the disk, in GB (2^30 bytes); 0 for no limit.
+    int readDiskLimit() const;
+    void saveDiskLimit(int gigabytes);
+
+    bool readHideSideBar() const;
+    void saveHideSideBar(bool hide);
+
+    /// Where a window stood, as the toolkit describes it; empty when it never stood anywhere.
+    QByteArray readWindowPlace(const QString &window) const;
+    void saveWindowPlace(const QString &window, const QByteArray &place);
 
     /// Sets the mirrored interval without storing it; the one-hour hold does so for a moment.
     void setRotateFrequency(int minutes) { m_rotateFrequency = minutes; }

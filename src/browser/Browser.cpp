@@ -87,6 +87,8 @@ BrowserWindow &Browser::browserWindow()
 void Browser::buildWindow()
 {
     m_window = std::make_unique<BrowserWindow>(m_model, m_context.look, m_actions.commands());
+    if (m_context.ports.windowMade)
+        m_context.ports.windowMade(*m_window);
     for (const QString &source : std::as_const(m_sources))
         m_window->addSourcePopupItem(source);
     connect(m_window.get(), &BrowserWindow::searchInBrowser, this, &Browser::searchInBrowser);

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+class QWidget;
+
 namespace moravel {
 
 /// What the browser needs of its neighbours. A command whose port is empty is not offered.
@@ -24,6 +26,8 @@ struct BrowserPorts
     std::function<bool(const QStringList &fields)> sufficientData;
     /// Tells whether Alt is held down in the event that is being handled.
     std::function<bool()> optionKeyHeld;
+    /// Gets the window when it is made, before it is shown.
+    std::function<void(QWidget &)> windowMade;
 };
 
 } // namespace moravel

@@ -56,8 +56,15 @@ void DesktopManagement::setDesktop(const QString &currentLargePicPath)
 
 void DesktopManagement::setChosenDesktop(const QString &path)
 {
-    m_setter.setDesktopToFile(path);
+    setToChosen(path);
     m_rotation.setupNextDesktopRotate();
+}
+
+void DesktopManagement::setToChosen(const QString &path)
+{
+    if (m_context.ports.userChose)
+        m_context.ports.userChose(path);
+    m_setter.setDesktopToFile(path);
 }
 
 void DesktopManagement::setAsDesktop(ThumbView &cell, int clickCount)
@@ -69,7 +76,9 @@ void DesktopManagement::setAsDesktop(ThumbView &cell, int clickCount)
     }
     const QString path = m_context.links.picLinkToPath(cell.picPath(), false, true);
     if (!path.isEmpty())
-        m_setter.setDesktopToFile(path);
+        setToChosen(path);
+    else if (m_context.ports.fetchForDesktop)
+        m_context.ports.fetchForDesktop(cell);
 }
 
 void DesktopManagement::showInFinder(ThumbView &cell)

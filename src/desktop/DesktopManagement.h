@@ -23,12 +23,16 @@ public:
 
     DesktopSetter &setter() { return m_setter; }
 
+    const DesktopSetter &setter() const { return m_setter; }
+
     Rotation &rotation() { return m_rotation; }
 
     QString currentDesktopPath() const { return m_setter.currentDesktopPath(); }
 
     // Commands -----------------------------------------------------------------------------------
 
+    /// Makes a file that the user chose the desktop.
+    void setToChosen(const QString &path);
     /// Makes the picture of the large picture window the desktop; asks first when it is huge.
     void setDesktop(const QString &currentLargePicPath);
     /// Makes a picture that the user chose the desktop; it stays for a whole interval.

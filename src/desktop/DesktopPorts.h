@@ -42,6 +42,13 @@ struct DesktopPorts
     /// Restores the deleted picture of a cell.
     std::function<void(ThumbView &)> reloadDeletedPic;
 
+    /// The user has chosen this picture for the desktop.
+    std::function<void(const QString &path)> userChose;
+    /// The user wants a picture as desktop that is not here: where it was not to be fetched unasked, it is
+    /// now, and set when it is here.
+    std::function<void(ThumbView &)> fetchForDesktop;
+    /// Why the desktop may not be changed now unless the user asks for it; empty when it may.
+    std::function<QString()> whyNotNow;
     /// Shows when the desktop changes next.
     std::function<void(const QString &text)> showNextChange;
     std::function<void(bool visible)> showKeepButton;

@@ -99,12 +99,15 @@ void Rotation::holdDesktopForOneHour()
     m_context.preferences.setRotateFrequency(HoldMinutes);
     setupNextDesktopRotate();
     m_context.preferences.readChangeFrequency();
+    if (m_context.ports.userChose) // who wants to look at it for an hour
+        m_context.ports.userChose(m_setter.currentDesktopPath());
 }
 
 void Rotation::setupNextDesktopRotate()
 {
     m_rotateCalls.clear();
     m_nextDesktopRotate.reset();
+    m_waits = false;
     const int minutes = m_context.preferences.rotateFrequency();
     if (minutes >= 1) {
         const qint64 seconds = qint64(minutes) * SecondsPerMinute;
@@ -116,8 +119,27 @@ void Rotation::setupNextDesktopRotate()
 
 void Rotation::scheduleRotateDesktop(double seconds)
 {
-    m_rotateCalls.push_back(m_context.platform.loop.after(
-        seconds, [this] { rotateDesktop(RotateSender::TimerOrMenu); }));
+    m_rotateCalls.push_back(m_context.platform.loop.after(seconds, [this] { rotateWhenDue(); }));
+}
+
+QString Rotation::whyNotNow() const
+{
+    return m_context.ports.whyNotNow ? m_context.ports.whyNotNow() : QString();
+}
+
+void Rotation::rotateWhenDue()
+{
+    m_waits = !whyNotNow().isEmpty();
+    if (m_waits)
+        showRotateInfo();
+    else
+        rotateDesktop(RotateSender::TimerOrMenu);
+}
+
+void Rotation::catchUp()
+{
+    if (m_waits)
+        rotateWhenDue();
 }
 
 void Rotation::markFirstRotationDue()
@@ -128,6 +150,8 @@ void Rotation::markFirstRotationDue()
 
 QString Rotation::rotateInfoText() const
 {
+    if (const QString why = m_waits ? whyNotNow() : QString(); !why.isEmpty())
+        return why;
     return moravel::rotateInfoText(m_nextDesktopRotate, m_context.platform.loop.now(),
                                    isDesktopFolder(m_setter.currentDesktopPath()));
 }

@@ -30,6 +30,8 @@ public:
     void setupNextDesktopRotate();
     /// Changes the desktop after so many seconds (the first change after the grid was built).
     void scheduleRotateDesktop(double seconds);
+    /// Makes up, once, for a change that had to wait.
+    void catchUp();
     /// At the start of the program: the first change is due as soon as there are pictures.
     void markFirstRotationDue();
 
@@ -40,6 +42,8 @@ public:
     std::optional<QDateTime> nextDesktopRotate() const { return m_nextDesktopRotate; }
 
 private:
+    void rotateWhenDue();
+    QString whyNotNow() const;
     std::vector<ThumbView *> shuffledCells();
     QString usablePicture(const ThumbView &cell) const;
     void useCell(ThumbView &cell, const QString &path, RotateSender sender);
@@ -50,6 +54,7 @@ private:
     std::optional<QDateTime> m_nextDesktopRotate;
     std::vector<DelayedCallHandle> m_rotateCalls;
     DelayedCallHandle m_rotateInfoTimer;
+    bool m_waits = false; ///< A change was due and may not be made yet.
 };
 
 } // namespace moravel

@@ -46,6 +46,8 @@ void LargePic::makeWindow()
         commands.deletePic = [this] { deleteShown(); };
     m_pic = std::make_unique<LargePicWindow>(m_context.images, commands);
     m_pic->setParentToolTip(m_parentToolTip);
+    if (m_ports.windowMade)
+        m_ports.windowMade(*m_pic);
     m_pic->onClosed = [this] {
         clearInfo();
         m_pic->largeImage().showFile({}); // a large one takes memory

@@ -48,6 +48,8 @@ struct LargePicPorts
     std::function<void(const QString &address)> openUrl;
     /// Icon of the program that opens addresses of a scheme: a path, or a name of the icon theme.
     std::function<QString(const QString &scheme)> iconForScheme;
+    /// Gets the window when it is made, before it is shown.
+    std::function<void(QWidget &)> windowMade;
     /// Makes markup from outside safe to show; without it the text is shown as it stands.
     std::function<QString(const QString &html)> sanitised;
 };

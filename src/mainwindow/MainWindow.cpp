@@ -96,6 +96,7 @@ void MainWindow::buildMenus(ToolTips &toolTips)
     menuBar()->addMenu(m_desktopMenu);
     m_viewMenu = menuBar()->addMenu(tr("&View"));
     m_helpMenu = menuBar()->addMenu(tr("&Help"));
+    m_fileEnd = m_fileMenu->addSeparator();
     QAction *close = m_fileMenu->addAction(tr("&Close"));
     close->setShortcut(Qt::CTRL | Qt::Key_W);
     QAction *quit = m_fileMenu->addAction(tr("&Quit"));
@@ -124,8 +125,10 @@ QAction *MainWindow::makeSideBarItem()
     item->setObjectName(QStringLiteral("sideBarMenuItem"));
     item->setShortcut(Qt::Key_F9);
     item->setChecked(true);
-    connect(m_splitView, &SplitView::collapsedChanged, item,
-            [item](bool collapsed) { item->setChecked(!collapsed); });
+    connect(m_splitView, &SplitView::collapsedChanged, item, [item, this](bool collapsed) {
+        item->setChecked(!collapsed);
+        Q_EMIT sideBarShown(!collapsed);
+    });
     return item;
 }
 
@@ -146,6 +149,16 @@ void MainWindow::setStartSize()
 GridView &MainWindow::grid() const
 {
     return m_mainView->grid();
+}
+
+void MainWindow::addFileItem(QAction *item) const
+{
+    m_fileMenu->insertAction(m_fileEnd, item);
+}
+
+void MainWindow::showSideBar(bool shown)
+{
+    m_splitView->setCollapsed(!shown);
 }
 
 void MainWindow::showStatus(const QString &text)

@@ -46,6 +46,11 @@ public:
 
     QMenu &helpMenu() const { return *m_helpMenu; }
 
+    void showSideBar(bool shown);
+
+    /// Adds an item above those that end the program.
+    void addFileItem(QAction *item) const;
+
     /// Shows a plain text in the status line, redrawn at once.
     void showStatus(const QString &text);
 
@@ -56,6 +61,7 @@ public:
     std::function<bool()> windowShouldClose;
 
 Q_SIGNALS:
+    void sideBarShown(bool shown);
     void windowDidExitFullScreen();
 
 protected:
@@ -76,6 +82,7 @@ private:
     MainView *m_mainView = nullptr;
     SplitView *m_splitView = nullptr;
     QMenu *m_fileMenu = nullptr;
+    QAction *m_fileEnd = nullptr; ///< Separates the items that end the program.
     QMenu *m_sourcesMenu = nullptr;
     QMenu *m_desktopMenu = nullptr;
     QMenu *m_viewMenu = nullptr;

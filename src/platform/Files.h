@@ -9,6 +9,7 @@
 #include <memory>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <vector>
 
 namespace moravel {
 
@@ -27,6 +28,14 @@ struct StandardFolders
 {
     QString pictures; ///< The user's Pictures folder.
     QString applicationSupport; ///< Where applications keep their own data.
+};
+
+/// A plain file of a folder, as the disk tells it.
+struct FileEntry
+{
+    QString name;
+    qint64 size = 0; ///< Bytes.
+    qint64 modified = 0; ///< Seconds since 1970.
 };
 
 /// The bytes of a file as they were when it was opened, mapped or read. Stays valid while the file is
@@ -94,6 +103,9 @@ public:
     /// Moves a file; never overwrites.
     virtual FileResult<void> move(const QString &from, const QString &to) = 0;
     virtual FileResult<void> remove(const QString &path) = 0;
+
+    /// The plain files of a folder, without hidden ones and without links, in no order.
+    virtual FileResult<std::vector<FileEntry>> entries(const QString &folder) const = 0;
 
     /// Opens a file for reading as a whole. Regular files only.
     virtual FileResult<std::unique_ptr<FileBytes>> open(const QString &path) const = 0;

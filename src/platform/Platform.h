@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Alerts.h"
+#include "platform/Autostart.h"
 #include "platform/DefaultPrograms.h"
 #include "platform/Defaults.h"
 #include "platform/Files.h"
@@ -9,6 +10,7 @@
 #include "platform/Images.h"
 #include "platform/MainLoop.h"
 #include "platform/Random.h"
+#include "platform/Surroundings.h"
 #include "platform/Trash.h"
 
 namespace moravel {
@@ -25,6 +27,8 @@ struct Platform
     Random &random;
     Trash *trash = nullptr; ///< Null where pictures cannot be deleted.
     DefaultPrograms *programs = nullptr; ///< Null where they are not known.
+    Surroundings *surroundings = nullptr; ///< Null where nothing is known of them.
+    Autostart *autostart = nullptr; ///< Null where the session cannot start the program.
 };
 
 } // namespace moravel

@@ -27,6 +27,9 @@ public:
     /// Shows @p image as the icon, in its own proportions.
     virtual void setImage(const QImage &image) = 0;
 
+    /// Tells whether the icon is in a tray now.
+    virtual bool isShown() const = 0;
+
     /// Asked each time the menu opens, and when a tray shows up; an empty list gives no menu lines.
     std::function<QList<TrayMenuItem>()> onMenuNeeded;
     std::function<void(const QString &command)> onCommand;

@@ -193,6 +193,8 @@ void Downloads::downloadDidFinish(const DownloadPtr &download)
     ports.status(hintText());
     if (LargePicPort *window = windowFor(*download))
         window->displayPicFile(download->path);
+    if (ports.pictureArrived)
+        ports.pictureArrived(download->path);
     if (download->cell && ports.newPicture)
         ports.newPicture(*download->cell, download->path);
     forget(download);

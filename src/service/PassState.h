@@ -17,6 +17,8 @@ struct PassState
     std::optional<QDateTime> lastDataCheck; ///< When the last full thumbnail pass ended.
     QString currentLongSource; ///< The source being handled, for status texts.
     Pass pass = Pass::None; ///< Which pass the index belongs to.
+    bool heldThumbs = false; ///< The hourly pass was due and had to wait.
+    bool heldPictures = false; ///< The pass of the large pictures had to stop.
 };
 
 } // namespace moravel

@@ -33,8 +33,7 @@ void PicturePass::loadNextPic()
     if (m_queue.connectionFailed() || m_state.pass == PassState::Pass::Thumbs)
         return;
     if (m_state.thumbIndex >= m_context.cells.count()) {
-        m_state.thumbIndex = 0;
-        m_state.pass = PassState::Pass::None;
+        stop();
         m_context.ports.status(Texts::tr("Double-click any thumbnail to set as desktop."));
         return;
     }
@@ -43,13 +42,40 @@ void PicturePass::loadNextPic()
     m_state.pass = PassState::Pass::Pictures;
     ThumbView &cell = m_context.cells.at(m_state.thumbIndex);
     m_state.currentLongSource = cell.longSourceName();
-    const bool wanted = cell.thumbPath() != ThumbView::deletedMark() && !cell.isHidden();
-    // A picture that just failed is tried again in the next hour's pass, not at every round.
-    if (wanted
-        && !m_downloads.hasFailed(m_context.links.picLinkToPath(cell.picPath(), false, false)))
+    if (isWanted(cell)) {
+        if (m_context.ports.mustWait()) {
+            m_state.heldPictures = true;
+            stop();
+            return;
+        }
         m_downloads.largePicFilePathForThumb(cell);
+    }
     ++m_state.thumbIndex;
     loop.schedule(StepSeconds, [this] { loadNextPic(); });
+}
+
+bool PicturePass::isWanted(const ThumbView &cell) const
+{
+    if (cell.thumbPath() == ThumbView::deletedMark() || cell.isHidden())
+        return false;
+    const QString path =
+        m_context.links.picLinkToPath(removeDoubleDomain(cell.picPath()), false, false);
+    // A picture that just failed is tried again in the next hour's pass, not at every round.
+    if (path.isEmpty() || m_downloads.hasFailed(path) || m_context.platform.files.exists(path))
+        return false;
+    return !m_context.ports.isLetGo || !m_context.ports.isLetGo(path);
+}
+
+void PicturePass::stop()
+{
+    m_state.thumbIndex = 0;
+    m_state.pass = PassState::Pass::None;
+}
+
+void PicturePass::catchUp()
+{
+    if (std::exchange(m_state.heldPictures, false))
+        loadNextPic();
 }
 
 void PicturePass::logShownCells() const

@@ -16,10 +16,15 @@ public:
 
     void loadNextPic();
 
+    /// Goes on where the pass had to wait.
+    void catchUp();
+
     Downloads &downloads() { return m_downloads; }
 
 private:
     void downloadFinished();
+    bool isWanted(const ThumbView &cell) const;
+    void stop();
     void logShownCells() const;
 
     const ServiceContext &m_context;

@@ -30,6 +30,20 @@ PictureService::PictureService(const ServiceContext &context, const QString &bas
     });
 }
 
+void PictureService::catchUp()
+{
+    if (!m_thumbPass.catchUp())
+        m_picturePass.catchUp();
+}
+
+void PictureService::connectionIsBack()
+{
+    if (!m_queue.connectionFailed() || m_state.pass != PassState::Pass::None)
+        return;
+    m_thumbPass.forgetLastDataCheck();
+    m_thumbPass.restartUnasked(0);
+}
+
 void PictureService::findThumb(const QString &shortSource, const QString &shortDate,
                                const std::function<void(const QString &)> &done) const
 {

@@ -48,6 +48,12 @@ public:
     /// Goes on downloading the large pictures that are missing.
     void loadNextPic() { m_picturePass.loadNextPic(); }
 
+    /// Makes up, once, for what had to wait.
+    void catchUp();
+
+    /// The connection is there again: asks anew where the last pass has failed.
+    void connectionIsBack();
+
 private:
     ServiceContext m_context;
     ServiceUrls m_urls;

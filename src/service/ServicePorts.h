@@ -41,9 +41,24 @@ struct ServicePorts
     /// Restores the deleted picture of a cell.
     std::function<void(ThumbView &)> reloadDeletedPic;
     std::function<void()> loadNews;
+    /// Why nothing may be fetched now that the user did not ask for; empty when it may.
+    std::function<QString()> whyNotNow;
+    /// Tells whether a picture file was let go to save space, and stays away until it is asked for.
+    std::function<bool(const QString &path)> isLetGo;
+    /// A picture file has come.
+    std::function<void(const QString &path)> pictureArrived;
     /// Tells the user of a finished picture file.
     std::function<void(const ThumbView &, const QString &path)> newPicture;
     LargePicPort *largePic = nullptr;
+
+    /// Tells whether what the user did not ask for has to wait, and says so in the status line.
+    bool mustWait() const
+    {
+        const QString why = whyNotNow ? whyNotNow() : QString();
+        if (!why.isEmpty())
+            status(why);
+        return !why.isEmpty();
+    }
 
     void status(const QString &text) const
     {

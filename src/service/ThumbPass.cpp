@@ -29,6 +29,30 @@ void ThumbPass::restart(double seconds)
     m_context.platform.loop.schedule(seconds, [this] { loadNextThumb(); });
 }
 
+void ThumbPass::restartUnasked(double seconds)
+{
+    m_state.thumbIndex = 0;
+    m_state.pass = PassState::Pass::None;
+    m_context.platform.loop.schedule(seconds, [this] { loadNextThumb(); });
+}
+
+bool ThumbPass::catchUp()
+{
+    const bool held = m_state.heldThumbs;
+    if (held)
+        loadNextThumb();
+    return held;
+}
+
+// A pass that restart() has begun was asked for by the user; the others begin by the clock.
+bool ThumbPass::hasToWait()
+{
+    if (m_state.thumbIndex != 0)
+        return false;
+    m_state.heldThumbs = m_state.pass != PassState::Pass::Thumbs && m_context.ports.mustWait();
+    return m_state.heldThumbs;
+}
+
 bool ThumbPass::isTooEarly() const
 {
     if (m_state.thumbIndex != 0 || !m_state.lastDataCheck)
@@ -39,7 +63,7 @@ bool ThumbPass::isTooEarly() const
 
 void ThumbPass::loadNextThumb(const Then &then)
 {
-    if (isTooEarly()) {
+    if (isTooEarly() || hasToWait()) {
         run(then);
         return;
     }

@@ -22,6 +22,12 @@ public:
     /// Starts the pass at the first cell, @p seconds from now.
     void restart(double seconds);
 
+    /// Starts it in the same way, but by the program's own account: it may have to wait.
+    void restartUnasked(double seconds);
+
+    /// Makes up for a pass that had to wait. Returns false when none had.
+    bool catchUp();
+
     /// Lets the next pass through whenever the last one was.
     void forgetLastDataCheck() { m_state.lastDataCheck.reset(); }
 
@@ -33,6 +39,7 @@ public:
 
 private:
     bool isTooEarly() const;
+    bool hasToWait();
     QString rolledOverDay();
     void endPass();
     void emptyCell(ThumbView &cell) const;

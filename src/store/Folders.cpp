@@ -99,6 +99,16 @@ QString Folders::sourcesFile()
     return supportFile(QStringLiteral("Moravel-Sources.txt"));
 }
 
+QString Folders::desktopsFile()
+{
+    return supportFile(QStringLiteral("Moravel-Desktops.txt"));
+}
+
+QString Folders::letGoFile()
+{
+    return supportFile(QStringLiteral("Moravel-LetGo.txt"));
+}
+
 void Folders::removeLeftovers()
 {
     for (const QString &folder :

@@ -30,6 +30,12 @@ public:
     /// The kept list of sources.
     QString sourcesFile();
 
+    /// The names of the pictures that the user has set as desktop.
+    QString desktopsFile();
+
+    /// The names of the pictures that were let go to save space.
+    QString letGoFile();
+
     /// Removes what writes that were interrupted have left in the folders; for the start of the program.
     void removeLeftovers();
 

@@ -20,6 +20,38 @@
 
 namespace moravel::testing {
 
+class FakeSurroundings : public Surroundings
+{
+public:
+    SurroundingsState state() const override { return now; }
+
+    void set(const SurroundingsState &state)
+    {
+        now = state;
+        if (onChanged)
+            onChanged();
+    }
+
+    SurroundingsState now;
+};
+
+class FakeAutostart : public Autostart
+{
+public:
+    bool isOn() const override { return on; }
+
+    void setOn(bool wanted, std::function<void(const tl::expected<void, QString> &)> done) override
+    {
+        if (!refusal.isEmpty())
+            return done(tl::unexpected(refusal));
+        on = wanted;
+        done({});
+    }
+
+    bool on = false;
+    QString refusal;
+};
+
 /// The whole application on a real disk, a virtual clock and a played service.
 class App : private Tray, private Workspace, private Notifications
 {
@@ -30,7 +62,8 @@ public:
         , trash(home.path(QStringLiteral("Trash")))
         , defaults(home.path(QStringLiteral("prefs.ini")))
         , delegate(
-              {loop, http, defaults, files, alerts, images, random, &trash},
+              {loop, http, defaults, files, alerts, images, random, &trash, nullptr, &surroundings,
+               &autostart},
               withDesktop ? std::optional<DesktopPlatform>({&pictures, *this, *this, *this})
                           : std::nullopt,
               {urls,
@@ -42,7 +75,7 @@ public:
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };
         delegate.applicationWillFinishLaunching();
-        delegate.window().show();
+        delegate.showWindow();
         loop.schedule(0, [this] { delegate.applicationDidFinishLaunching(); });
     }
 
@@ -73,6 +106,7 @@ public:
     }
 
     bool down = false;
+    bool hasTray = false;
     QStringList others; ///< What the rest of the desktop was asked for.
     FakeMainLoop loop;
     FakeHttp http;
@@ -82,6 +116,8 @@ public:
     FakeAlerts alerts;
     FakeImages images;
     FakeRandom random;
+    FakeSurroundings surroundings;
+    FakeAutostart autostart;
     FakeThumbnails thumbnails;
     FakeDesktopPictures pictures;
     FakeUrlOpener urls;
@@ -90,6 +126,8 @@ public:
 
 private:
     void setImage(const QImage &) override { }
+
+    bool isShown() const override { return hasTray; }
 
     void openDesktopSettings(std::function<void(const QString &)> done) override
     {

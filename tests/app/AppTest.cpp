@@ -213,6 +213,7 @@ TEST(Options, commandLine)
     EXPECT_EQ(*parse("--sources|all")->sources, QStringList{QStringLiteral("all")});
     EXPECT_EQ(*parse("--sources=One, Two words")->sources,
               (QStringList{QStringLiteral("One"), QStringLiteral("Two words")}));
+    EXPECT_TRUE(parse("--hidden")->hidden);
     EXPECT_EQ(parse("hold")->action, Options::Action::Command);
     EXPECT_TRUE(parse("current|--json")->json);
     EXPECT_EQ(parse("set|--|-a.jpg")->arguments, QStringList{QStringLiteral("-a.jpg")});

@@ -138,6 +138,31 @@ TEST_F(Rotating, firstChangeComesHalfAMinuteAfterTheGrid)
     EXPECT_EQ(world.pictures.sets.size(), sets) << "a change of the schedule cancels it";
 }
 
+TEST_F(Rotating, aChangeThatHasToWaitIsMadeOnce)
+{
+    world.picture(u"a.jpg"_s);
+    world.picture(u"b.jpg"_s);
+    QString why = u"New desktop waits, since the screen is locked"_s;
+    world.ports.whyNotNow = [&why] { return why; };
+    world.preferences.setChangeFrequency(30);
+    EXPECT_EQ(world.nextChange, u"New desktop in 30 minutes");
+    world.run(1801);
+    EXPECT_EQ(world.nextChange, why);
+    world.run(7200);
+    rotation.catchUp(); // not yet
+    EXPECT_TRUE(world.pictures.sets.isEmpty());
+    why.clear();
+    rotation.catchUp();
+    rotation.catchUp();
+    world.run(1);
+    EXPECT_EQ(world.pictures.sets.size(), 1);
+    EXPECT_NEAR(static_cast<double>(secondsLeft()), 1800, 2);
+    why = u"locked"_s;
+    world.run(1801);
+    rotate(RotateSender::TimerOrMenu); // the user wants one
+    EXPECT_EQ(world.nextChange, u"New desktop in 30 minutes");
+}
+
 TEST_F(Rotating, holdLastsAnHour)
 {
     for (const int minutes : {30, 0}) {

@@ -106,6 +106,50 @@ TEST(PassAlone, rateLimitAndHourlyRepeat)
     EXPECT_EQ(w.http.posts().size(), 1);
 }
 
+TEST_F(Pass, waitsWhereNobodyAskedAndMakesUpOnce)
+{
+    QString why = u"since the connection is metered"_s;
+    w.ports.whyNotNow = [&why] { return why; };
+    const auto downloads = [this] { return QDir(w.pictureFolder()).entryList(QDir::Files).size(); };
+    w.startPass(); // the user has asked for the day, not for its large pictures
+    EXPECT_EQ(w.http.posts().size(), 3);
+    EXPECT_EQ(downloads(), 0);
+    EXPECT_EQ(w.statuses.last(), why);
+    w.service->downloads().largePicFilePathForThumb(w.cell(1)); // this one is asked for
+    w.run(60);
+    EXPECT_EQ(downloads(), 1);
+    w.run(3600 * 20); // past midnight
+    EXPECT_EQ(w.http.posts().size(), 3);
+    EXPECT_EQ(w.statuses.last(), why);
+    why.clear();
+    w.service->catchUp();
+    w.run(60);
+    EXPECT_EQ(w.http.posts().size(), 6); // today's
+    EXPECT_EQ(downloads(), 4);
+    w.service->catchUp();
+    w.run(60);
+    EXPECT_EQ(w.http.posts().size(), 6);
+    w.run(3600 * 24);
+    EXPECT_EQ(w.http.posts().size(), 9) << "the hourly passes go on";
+}
+
+TEST(PassAlone, asksAgainWhenTheConnectionIsBack)
+{
+    World w;
+    w.addSources({Three[0]});
+    const auto data = w.data;
+    w.data = [](const QString &, const QString &) { return FakeHttp::Answer{{}, 500}; };
+    w.startPass();
+    w.data = data;
+    const auto asked = w.http.posts().size();
+    w.service->catchUp();
+    w.run(5);
+    EXPECT_EQ(w.http.posts().size(), asked);
+    w.service->connectionIsBack();
+    w.run(5);
+    EXPECT_EQ(w.cell(0).captionField(), u"Caption A-7-4-2011"_s);
+}
+
 TEST(PassAlone, movesOnAtMidnightUnlessTheUserChoseADate)
 {
     for (const bool userChose : {false, true}) {

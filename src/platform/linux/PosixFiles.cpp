@@ -259,6 +259,22 @@ FileResult<void> PosixFiles::remove(const QString &path)
     return {};
 }
 
+FileResult<std::vector<FileEntry>> PosixFiles::entries(const QString &folder) const
+{
+    std::vector<FileEntry> all;
+    const auto read = forEachName(folder, [&all](const dirent &entry, int dir) {
+        struct stat info = {};
+        if (entry.d_name[0] == '.' || ::fstatat(dir, entry.d_name, &info, AT_SYMLINK_NOFOLLOW) != 0
+            || !S_ISREG(info.st_mode))
+            return;
+        all.push_back(
+            {QFile::decodeName(entry.d_name), qint64(info.st_size), qint64(info.st_mtim.tv_sec)});
+    });
+    if (!read)
+        return tl::make_unexpected(read.error());
+    return all;
+}
+
 FileResult<std::unique_ptr<FileBytes>> PosixFiles::open(const QString &path) const
 {
     const auto file = posix::openRegular(path);

@@ -32,6 +32,7 @@ public:
     /// Moves across file systems too, by copying; only a plain file then.
     FileResult<void> move(const QString &from, const QString &to) override;
     FileResult<void> remove(const QString &path) override;
+    FileResult<std::vector<FileEntry>> entries(const QString &folder) const override;
     FileResult<std::unique_ptr<FileBytes>> open(const QString &path) const override;
     FileResult<void> writeAtomically(const QString &path,
                                      std::initializer_list<std::string_view> pieces) override;

@@ -24,6 +24,8 @@ public:
 
     void setImage(const QImage &image) override;
 
+    bool isShown() const override { return m_icon && m_icon->isVisible(); }
+
     /// The menu as the tray shows it.
     QMenu &menu() { return m_menu; }
 

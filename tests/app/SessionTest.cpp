@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// The application as a guest of the session: started by it, quiet where it would disturb, and not too large.
+#include "App.h"
+#include "support/Test.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace {
+
+class SessionTest : public ::testing::Test
+{
+protected:
+    static Options all(bool hidden = false)
+    {
+        Options options;
+        options.sources = QStringList{u"all"_s};
+        options.hidden = hidden;
+        return options;
+    }
+
+    QStringList pictures() const
+    {
+        return QDir(home.path(u"Pictures/Moravel"_s)).entryList(QDir::Files);
+    }
+
+    const QStringList both{u"A.jpg"_s, u"B.jpg"_s};
+    TempHome home;
+};
+
+TEST_F(SessionTest, startsInTheTrayElseMinimised)
+{
+    for (const bool tray : {true, false}) {
+        App app(home, all(true), true);
+        app.hasTray = tray;
+        app.run(10);
+        EXPECT_FALSE(app.delegate.window().isVisible());
+        EXPECT_EQ(app.delegate.cells().at(0).captionField(), u"Caption A"_s);
+        app.run(10);
+        EXPECT_EQ(app.delegate.window().isVisible(), !tray);
+        EXPECT_EQ(app.delegate.window().isMinimized(), !tray);
+    }
+}
+
+TEST_F(SessionTest, windowsComeBackOnTheScreens)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+
+    const struct
+    {
+        QRect put, found;
+    } cases[] = {{{40, 50, 700, 650}, {40, 50, 700, 650}},
+                 {{40, 50, 20000, 650}, screen}, // of a screen that is not there any more
+                 {{9000, -4000, 700, 650}, screen}};
+
+    for (const auto &c : cases) {
+        {
+            App app(home, all());
+            app.delegate.window().setGeometry(c.put);
+            app.delegate.window().findChild<QAction *>(u"sideBarMenuItem"_s)->trigger();
+            app.run(2); // and then the machine stops
+        }
+        App app(home, all());
+        app.run(1);
+        const MainWindow &window = app.delegate.window();
+        EXPECT_TRUE(c.found != c.put || window.geometry() == c.put);
+        EXPECT_TRUE(screen.contains(window.geometry()));
+        EXPECT_EQ(window.sideBar().isHidden(), &c != &cases[1]); // each time the other way
+    }
+}
+
+TEST_F(SessionTest, staysQuietAndMakesUp)
+{
+    App app(home, all(true), true);
+    app.hasTray = true;
+    app.surroundings.set({.metered = true});
+    app.run(60);
+    EXPECT_EQ(app.delegate.cells().at(0).captionField(), QString()) << "nobody has asked";
+    EXPECT_TRUE(pictures().isEmpty());
+    app.delegate.window().findChild<QAction *>(u"quietMenuItem"_s)->trigger();
+    app.run(30);
+    EXPECT_EQ(pictures(), both) << "the user does not want it so";
+}
+
+TEST_F(SessionTest, fetchesWhatTheUserWantsAsDesktop)
+{
+    App app(home, all(), true);
+    app.surroundings.set({.lowBattery = true});
+    app.run(30);
+    ThumbView &cell = app.delegate.cells().at(0);
+    EXPECT_EQ(cell.captionField(), u"Caption A"_s);
+    EXPECT_TRUE(pictures().isEmpty());
+    cell.commands().setAsDesktop(cell);
+    app.run(5);
+    EXPECT_EQ(pictures(), both.first(1));
+    EXPECT_TRUE(app.pictures.shown[u"A"_s].endsWith(u"/A.jpg"));
+}
+
+TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
+{
+    App app(home, all(), true);
+    app.run(20);
+    ThumbView &chosen = app.delegate.cells().at(1);
+    chosen.commands().setAsDesktop(chosen);
+    app.run(1);
+    const auto show = [&app](const QString &url) {
+        return std::exchange(app.pictures.shown[u"A"_s], url);
+    };
+    const QString before = show(u"file://localhost/other.jpg"_s);
+    for (const QString &name : both) // sparse
+        QFile::resize(home.path(u"Pictures/Moravel/"_s + name), 700LL << 20);
+    app.delegate.window().findChild<QAction *>(u"diskSpaceMenuItem"_s)->trigger();
+    auto *sheet = app.delegate.window().findChild<QDialog *>(u"diskSpaceSheet"_s);
+    ASSERT_TRUE(sheet);
+    auto *limit = sheet->findChild<QComboBox *>();
+    limit->setCurrentText(u"1 GB"_s);
+    sheet->accept();
+    MORAVEL_WAIT((app.run(0.1), pictures() == both.mid(1)));
+    EXPECT_TRUE(QFile::exists(home.path(u"Trash/files/A.jpg"_s)));
+
+    show(before);
+    app.run(3700); // the next pass
+    EXPECT_EQ(pictures(), both.mid(1));
+    ThumbView &gone = app.delegate.cells().at(0);
+    EXPECT_EQ(gone.captionField(), u"Caption A"_s);
+    gone.commands().setAsDesktop(gone);
+    app.run(5);
+    EXPECT_EQ(pictures(), both);
+    EXPECT_TRUE(show({}).endsWith(u"/A.jpg"));
+}
+
+} // namespace

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "base/QuietRules.h"
+
+#include "support/Test.h"
+
+#include <QSet>
+
+namespace {
+
+TEST(QuietRules, sayWhyNothingHappensUnasked)
+{
+    const struct
+    {
+        SurroundingsState state;
+        QuietVerdict whenWanted;
+        QuietVerdict whenNot;
+    } cases[] = {
+        {{}, {}, {}},
+        {{.powerSaver = true}, {QuietReason::PowerSaver, QuietReason::PowerSaver}, {}},
+        {{.lowBattery = true}, {QuietReason::LowBattery, QuietReason::LowBattery}, {}},
+        {{.metered = true}, {QuietReason::Metered, QuietReason::Metered}, {}},
+        {{.fullScreen = true}, {QuietReason::FullScreen, QuietReason::FullScreen}, {}},
+        {{.locked = true}, {QuietReason::Locked, QuietReason::Locked}, {}},
+        // Pictures that are here can be shown without a connection.
+        {{.offline = true},
+         {QuietReason::Offline, QuietReason::None},
+         {QuietReason::Offline, QuietReason::None}},
+        {{.metered = true, .offline = true, .locked = true},
+         {QuietReason::Locked, QuietReason::Locked},
+         {QuietReason::Offline, QuietReason::None}},
+    };
+
+    QSet<QString> texts;
+    for (const auto &c : cases) {
+        SCOPED_TRACE(qPrintable(waitingDownloadText(c.whenWanted.download)));
+        EXPECT_EQ(quietVerdict(c.state, true), c.whenWanted);
+        EXPECT_EQ(quietVerdict(c.state, false), c.whenNot);
+        texts.insert(waitingDownloadText(c.whenWanted.download));
+        EXPECT_EQ(waitingRotationText(c.whenWanted.rotation).isEmpty(), c.whenWanted.mayRotate());
+    }
+    EXPECT_EQ(texts.size(), 7); // each reason its own, and none for none
+}
+
+} // namespace
