@@ -122,11 +122,11 @@
     </message>
     <message>
         <source>&amp;Sources</source>
-        <translation>ال&amp;مصادر</translation>
+        <translation>المصاد&amp;ر</translation>
     </message>
     <message>
         <source>&amp;Licences</source>
-        <translation>ال&amp;رخص</translation>
+        <translation>&amp;الرخص</translation>
     </message>
     <message>
         <source>Version %1</source>
@@ -142,7 +142,7 @@
     </message>
     <message>
         <source>Show &amp;Large Picture</source>
-        <translation>عرض الصورة &amp;كبيرة</translation>
+        <translation>عرض الصورة ال&amp;كبيرة</translation>
     </message>
     <message>
         <source>Show in &amp;File Manager</source>
@@ -262,11 +262,11 @@
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 ك.ب</translation>
+        <translation>%1 كيلوبايت</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 م.ب</translation>
+        <translation>%1 ميغابايت</translation>
     </message>
     <message>
         <source>%1 (%2 x %3 pixels)</source>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Downloading pic from %1: %2 of %3 KB</source>
-        <translation>يجري تنزيل صورة من ⁨%1⁩: %2 من %3 ك.ب</translation>
+        <translation>يجري تنزيل صورة من ⁨%1⁩: %2 من %3 كيلوبايت</translation>
     </message>
     <message>
         <source>Saving pic from %1...</source>
@@ -859,7 +859,7 @@ Double-click to un-delete.</source>
     <name>moravel::MainWindow</name>
     <message>
         <source>Show &amp;Large Picture</source>
-        <translation>عرض الصورة &amp;كبيرة</translation>
+        <translation>عرض الصورة ال&amp;كبيرة</translation>
     </message>
     <message>
         <source>Moravel</source>

@@ -61,20 +61,20 @@
     <message numerus="yes">
         <source>New desktop in %n hours</source>
         <translation>
-            <numerusform>Neues Hintergrundbild in %Ln Stunde</numerusform>
-            <numerusform>Neues Hintergrundbild in %Ln Stunden</numerusform>
+            <numerusform>Neues Hintergrundbild in %Ln&#xa0;Stunde</numerusform>
+            <numerusform>Neues Hintergrundbild in %Ln&#xa0;Stunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>New desktop in %n minutes</source>
         <translation>
-            <numerusform>Neues Hintergrundbild in %Ln Minute</numerusform>
-            <numerusform>Neues Hintergrundbild in %Ln Minuten</numerusform>
+            <numerusform>Neues Hintergrundbild in %Ln&#xa0;Minute</numerusform>
+            <numerusform>Neues Hintergrundbild in %Ln&#xa0;Minuten</numerusform>
         </translation>
     </message>
     <message>
         <source>New desktop in about 1 minute</source>
-        <translation>Neues Hintergrundbild in etwa 1 Minute</translation>
+        <translation>Neues Hintergrundbild in etwa 1&#xa0;Minute</translation>
     </message>
     <message>
         <source>Desktop set by System Prefs</source>

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QTextOption>
 
 // Outside of any namespace, as the macro wants it.
 static void registerLicence()
@@ -63,6 +64,9 @@ QPlainTextEdit *makePage(const QString &objectName, const QString &text)
     page->setTabChangesFocus(true);
     page->setFrameShape(QFrame::NoFrame);
     page->document()->setDocumentMargin(10);
+    QTextOption option = page->document()->defaultTextOption();
+    option.setAlignment(text.isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft);
+    page->document()->setDefaultTextOption(option);
     return page;
 }
 
@@ -71,6 +75,9 @@ QLabel *makeLabel(const QString &text, QWidget *parent, double size = 1)
     auto *label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    // The program's name stays on the side where the texts begin.
+    label->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute
+                        | (parent->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * size);
     font.setBold(size > 1);

@@ -150,10 +150,10 @@ void CaptionLabel::paintEvent(QPaintEvent *)
         painter.drawText(rect(), Qt::AlignCenter, m_placeholder);
         return;
     }
-    const bool rightToLeft = m_text.isRightToLeft();
-    painter.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    // The words run as their language does; all lines of a cell begin on the side where the window begins.
+    painter.setLayoutDirection(m_text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const Qt::Alignment side = m_centred ? Qt::AlignHCenter
-        : rightToLeft                    ? Qt::AlignRight
+        : isRightToLeft()                ? Qt::AlignRight
                                          : Qt::AlignLeft;
     const int flags = static_cast<int>(Qt::TextSingleLine)
         | static_cast<int>(Qt::AlignVCenter | Qt::AlignAbsolute | side);

@@ -20,6 +20,13 @@ namespace moravel {
 
 namespace {
 
+/// Whether an icon points along the line of reading, which runs to the left here.
+bool isMirrored(const QString &name)
+{
+    return QGuiApplication::isRightToLeft()
+        && (name.startsWith(QLatin1String("previous-")) || name.startsWith(QLatin1String("next-")));
+}
+
 QPixmap render(const QString &name, int pixels, const QColor &colour)
 {
     registerIcons();
@@ -27,7 +34,12 @@ QPixmap render(const QString &name, int pixels, const QColor &colour)
     pixmap.fill(Qt::transparent);
     QSvgRenderer svg(QStringLiteral(":/moravel/mainwindow/%1.svg").arg(name));
     QPainter painter(&pixmap);
+    if (isMirrored(name)) {
+        painter.translate(pixels, 0);
+        painter.scale(-1, 1);
+    }
     svg.render(&painter);
+    painter.resetTransform();
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(pixmap.rect(), colour);
     return pixmap;

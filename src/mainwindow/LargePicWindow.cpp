@@ -7,6 +7,7 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QProgressBar>
@@ -47,6 +48,13 @@ QRect ontoScreen(QRect frame, const QRect &screen)
     frame.moveLeft(std::max(frame.left(), screen.left()));
     frame.moveTop(std::max(frame.top(), screen.top()));
     return frame;
+}
+
+/// Where a row begins and where it ends, in the direction of reading.
+void setSideMargins(QLayout &row, int before, int after)
+{
+    const bool mirrored = QGuiApplication::isRightToLeft();
+    row.setContentsMargins(mirrored ? after : before, 0, mirrored ? before : after, 0);
 }
 
 } // namespace
@@ -120,7 +128,7 @@ QWidget *LargePicWindow::buildTexts()
                               0);
     label->addWidget(m_captionField, 1); // its first line is level with the arrows
     auto *caption = new QHBoxLayout;
-    caption->setContentsMargins(Margin, 0, Margin - IconInset, 0);
+    setSideMargins(*caption, Margin, Margin - IconInset);
     caption->setSpacing(2);
     caption->addLayout(label, 1);
     caption->addSpacing(12);
@@ -144,7 +152,7 @@ QWidget *LargePicWindow::buildButtons()
 {
     auto *bar = new QWidget;
     auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(Margin - TextInset, 0, Margin - IconInset, 0);
+    setSideMargins(*row, Margin - TextInset, Margin - IconInset);
     row->setSpacing(4);
     m_parentButton = makeButton(QStringLiteral("parentButton"), m_actions.showParent, true);
     connect(m_actions.showParent, &QAction::changed, m_parentButton, // the action has set its own

@@ -63,8 +63,9 @@ void MainWindow::buildDateActions(DateNavigation &navigation)
         makeAction(tr("&Previous Day"), QStringLiteral("previous-day"), tr("Previous day"), this);
     actions.nextDay = makeAction(tr("&Next Day"), QStringLiteral("next-day"), tr("Next day"), this);
     actions.today = makeAction(tr("&Today"), QStringLiteral("today"), tr("Today"), this);
-    actions.previousDay->setShortcut(Qt::ALT | Qt::Key_Left);
-    actions.nextDay->setShortcut(Qt::ALT | Qt::Key_Right);
+    const bool mirrored = isRightToLeft();
+    actions.previousDay->setShortcut(Qt::ALT | (mirrored ? Qt::Key_Right : Qt::Key_Left));
+    actions.nextDay->setShortcut(Qt::ALT | (mirrored ? Qt::Key_Left : Qt::Key_Right));
     actions.today->setShortcut(Qt::CTRL | Qt::Key_T);
     connect(actions.previousDay, &QAction::triggered, &navigation,
             &DateNavigation::moveToPreviousDay);
