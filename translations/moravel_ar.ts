@@ -492,7 +492,7 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>the connection is metered</source>
-        <translation>الاتصال محدود</translation>
+        <translation>الاتصال محدود البيانات</translation>
     </message>
     <message>
         <source>the battery is being saved</source>
@@ -504,15 +504,15 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>there is no connection</source>
-        <translation>لا يوجد اتصال</translation>
+        <translation>الاتصال منقطع</translation>
     </message>
     <message>
         <source>New pictures wait, since %1.</source>
-        <translation>تنتظر الصور الجديدة لأن %1.</translation>
+        <translation>الصور الجديدة في الانتظار لأن %1.</translation>
     </message>
     <message>
         <source>New desktop waits, since %1</source>
-        <translation>تنتظر الخلفية الجديدة لأن %1</translation>
+        <translation>الخلفية الجديدة في الانتظار لأن %1</translation>
     </message>
     <message>
         <source>Another request came first.</source>
@@ -520,7 +520,7 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>Pictures of the day on your desktop from the start.</source>
-        <translation>صور اليوم على سطح مكتبك منذ البداية.</translation>
+        <translation>صور اليوم على سطح المكتب منذ البداية.</translation>
     </message>
     <message>
         <source>The desktop did not allow it.</source>
@@ -771,11 +771,11 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>Looking at the pictures…</source>
-        <translation>جارٍ النظر في الصور…</translation>
+        <translation>يجري فحص الصور…</translation>
     </message>
     <message>
         <source>&amp;Keep the pictures below:</source>
-        <translation>إبقاء الصور &amp;دون:</translation>
+        <translation>إب&amp;قاء الصور دون:</translation>
     </message>
     <message>
         <source>No Limit</source>
@@ -783,11 +783,11 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 غ.ب</translation>
+        <translation>%1 غيغابايت</translation>
     </message>
     <message>
         <source>Thumbnails</source>
-        <translation>المصغّرات</translation>
+        <translation>الصور المصغرة</translation>
     </message>
     <message>
         <source>Other files in the folder</source>
@@ -795,15 +795,15 @@ Double-click to un-delete.</source>
     </message>
     <message>
         <source>All pictures stay.</source>
-        <translation>تبقى جميع الصور.</translation>
+        <translation>تبقى كل الصور.</translation>
     </message>
     <message>
         <source>All pictures stay for now.</source>
-        <translation>تبقى جميع الصور حاليًا.</translation>
+        <translation>تبقى كل الصور في الوقت الحالي.</translation>
     </message>
     <message>
         <source>What you set as desktop stays, and so do thumbnails and captions. A picture that went comes back when you open it.</source>
-        <translation>تبقى الصور التي جعلتها خلفية، وكذلك المصغّرات والتعليقات. والصورة التي أُزيلت تعود عند فتحها.</translation>
+        <translation>تبقى الصور التي عُيّنت خلفيات، وكذلك الصور المصغرة والشروح. وتعود الصورة التي أزيلت عند فتحها.</translation>
     </message>
     <message>
         <source>The collection takes %1. Full pictures: %2 (%3).</source>
@@ -937,11 +937,11 @@ Double-click to un-delete.</source>
     <name>moravel::QuietSide</name>
     <message>
         <source>Stay Quiet &amp;When Needed</source>
-        <translation>الهدوء عند ال&amp;حاجة</translation>
+        <translation>الت&amp;زام الهدوء عند الحاجة</translation>
     </message>
     <message>
         <source>On a low or saved battery, on a metered connection, while another program fills the screen and while it is locked, nothing is fetched and the desktop stays.</source>
-        <translation>عند انخفاض البطارية أو توفيرها، أو عند الاتصال المحدود، أو حين يملأ برنامج آخر الشاشة أو تكون مقفلة، لا يُجلب شيء وتبقى الخلفية.</translation>
+        <translation>عند ضعف البطارية أو توفيرها، وعند محدودية بيانات الاتصال، وما دام برنامج آخر يملأ الشاشة أو كانت مقفلة، لا يُنزَّل شيء وتبقى الخلفية كما هي.</translation>
     </message>
 </context>
 <context>
@@ -991,11 +991,11 @@ Double-click to un-delete.</source>
     <name>moravel::StartSide</name>
     <message>
         <source>Start at &amp;Login</source>
-        <translation>البدء عند تسجيل ال&amp;دخول</translation>
+        <translation>ال&amp;بدء عند تسجيل الدخول</translation>
     </message>
     <message>
         <source>Error changing the start at login.</source>
-        <translation>خطأ في تغيير البدء عند تسجيل الدخول.</translation>
+        <translation>حدث خطأ عند تغيير البدء عند تسجيل الدخول.</translation>
     </message>
 </context>
 <context>

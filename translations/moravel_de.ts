@@ -480,7 +480,7 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>the connection is metered</source>
-        <translation>die Verbindung getaktet ist</translation>
+        <translation>die Verbindung nach Menge abgerechnet wird</translation>
     </message>
     <message>
         <source>the battery is being saved</source>
@@ -496,11 +496,11 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>New pictures wait, since %1.</source>
-        <translation>Neue Bilder warten, da %1.</translation>
+        <translation>Neue Bilder warten, weil %1.</translation>
     </message>
     <message>
         <source>New desktop waits, since %1</source>
-        <translation>Das nächste Hintergrundbild wartet, da %1</translation>
+        <translation>Das nächste Hintergrundbild wartet, weil %1</translation>
     </message>
     <message>
         <source>Another request came first.</source>
@@ -728,14 +728,14 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     <name>moravel::DiskSide</name>
     <message>
         <source>&amp;Disk Space…</source>
-        <translation>Speicher&amp;platz&#xa0;…</translation>
+        <translation>S&amp;peicherplatz&#xa0;…</translation>
     </message>
 </context>
 <context>
     <name>moravel::DiskSpaceSheet</name>
     <message>
         <source>Disk space by source</source>
-        <translation>Speicherplatz nach Quelle</translation>
+        <translation>Speicherplatz nach Quellen</translation>
     </message>
     <message>
         <source>Source</source>
@@ -759,7 +759,7 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>&amp;Keep the pictures below:</source>
-        <translation>&amp;Höchstens für die Bilder:</translation>
+        <translation>&amp;Höchstens behalten:</translation>
     </message>
     <message>
         <source>No Limit</source>
@@ -787,11 +787,11 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>What you set as desktop stays, and so do thumbnails and captions. A picture that went comes back when you open it.</source>
-        <translation>Was Sie als Hintergrundbild gewählt haben, bleibt, ebenso Vorschaubilder und Bildtexte. Ein entferntes Bild kommt wieder, wenn Sie es öffnen.</translation>
+        <translation>Was als Hintergrundbild gewählt wurde, bleibt, ebenso Vorschaubilder und Bildunterschriften. Ein entferntes Bild kommt zurück, sobald es geöffnet wird.</translation>
     </message>
     <message>
         <source>The collection takes %1. Full pictures: %2 (%3).</source>
-        <translation>Die Sammlung belegt %1. Volle Bilder: %2 (%3).</translation>
+        <translation>Die Sammlung belegt %1. Vollständige Bilder: %2 (%3).</translation>
     </message>
     <message>
         <source>Oldest pictures that go to the Trash now: %1 (%2).</source>
@@ -921,11 +921,11 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     <name>moravel::QuietSide</name>
     <message>
         <source>Stay Quiet &amp;When Needed</source>
-        <translation>Bei Be&amp;darf zurückhalten</translation>
+        <translation>Bei Bedarf &amp;ruhig bleiben</translation>
     </message>
     <message>
         <source>On a low or saved battery, on a metered connection, while another program fills the screen and while it is locked, nothing is fetched and the desktop stays.</source>
-        <translation>Bei schwachem oder geschontem Akku, bei getakteter Verbindung, und während ein anderes Programm den Bildschirm füllt oder dieser gesperrt ist, wird nichts geladen, und das Hintergrundbild bleibt.</translation>
+        <translation>Bei schwachem oder geschontem Akku, bei nach Menge abgerechneter Verbindung, solange ein anderes Programm den Bildschirm füllt und solange er gesperrt ist, wird nichts geladen, und das Hintergrundbild bleibt.</translation>
     </message>
 </context>
 <context>
@@ -975,7 +975,7 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     <name>moravel::StartSide</name>
     <message>
         <source>Start at &amp;Login</source>
-        <translation>Bei der &amp;Anmeldung starten</translation>
+        <translation>Beim An&amp;melden starten</translation>
     </message>
     <message>
         <source>Error changing the start at login.</source>
