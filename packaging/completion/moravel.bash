@@ -15,7 +15,7 @@ _moravel() {
     mapfile -t COMPREPLY < <(compgen -W '--json' -- "$word")
   elif [[ -z $command ]]; then
     mapfile -t COMPREPLY < <(compgen -W 'next previous hold current set show large browser quit
-      --sources --json --help --version' -- "$word")
+      --sources --hidden --json --help --version' -- "$word")
   fi
 }
 complete -F _moravel moravel

@@ -13,5 +13,6 @@ complete -c moravel -n __fish_use_subcommand -a quit -d 'End the program'
 complete -c moravel -n '__fish_seen_subcommand_from set' -F
 complete -c moravel -n '__fish_seen_subcommand_from current' -l json -d 'Answer in JSON'
 complete -c moravel -n __fish_use_subcommand -l sources -x -a all -d 'Switch these sources on'
+complete -c moravel -n __fish_use_subcommand -l hidden -d 'Start without the window'
 complete -c moravel -s h -l help -d 'Show a short help'
 complete -c moravel -l version -d 'Show the version and the address of the service'

@@ -8,7 +8,7 @@ status=0
 fail() { echo "$*" >&2; status=1; }
 
 words=$("$1" --help | sed -nE 's/^  (-h, )?(--)?([a-z]+) .*$/\2\3/p')
-[ "$(wc -w <<<"$words")" -ge 13 ] || fail "only these were found in --help: $words"
+[ "$(wc -w <<<"$words")" -ge 14 ] || fail "only these were found in --help: $words"
 for word in $words; do
   name=${word#--}
   grep -qE "^\.(B|BI|BR).*${name}" "$2/moravel.1" || fail "$word: not in the man page"
