@@ -526,6 +526,165 @@ Double-click to un-delete.</source>
         <source>The desktop did not allow it.</source>
         <translation>لم تسمح بيئة سطح المكتب بذلك.</translation>
     </message>
+    <message>
+        <source>Source:</source>
+        <translation>المصدر:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>التاريخ:</translation>
+    </message>
+    <message>
+        <source>Caption:</source>
+        <translation>الشرح:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>الملف:</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>الصفحة:</translation>
+    </message>
+    <message>
+        <source>Try &apos;moravel --help&apos;.</source>
+        <translation>جرّب ⁨moravel --help⁩.</translation>
+    </message>
+    <message>
+        <source>the path of a picture</source>
+        <translation>مسار صورة</translation>
+    </message>
+    <message>
+        <source>--sources needs &quot;all&quot; or a list of source names</source>
+        <translation>يحتاج ⁨--sources⁩ إلى «all» أو قائمة بأسماء المصادر</translation>
+    </message>
+    <message>
+        <source>unknown option: %1</source>
+        <translation>خيار غير معروف: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>--json goes with the command current</source>
+        <translation>⁨--json⁩ يُستعمل مع الأمر ⁨current⁩</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>أمر غير معروف: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>%1 does not go with the command %2</source>
+        <translation>لا يُستعمل ⁨%1⁩ مع الأمر ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>يحتاج ⁨%1⁩ إلى %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot take: %2</source>
+        <translation>لا يقبل ⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Usage: moravel [--sources LIST] [--hidden]
+  or:  moravel COMMAND
+Shows the pictures of the day of many sources and keeps them in your Pictures folder.
+
+Options:
+  --sources LIST  switch these sources on and remember it: long names with commas between,
+                  or all
+  --hidden        start without the window, in the tray (minimised where there is none)
+  --json          with current: answer in JSON
+  -h, --help      show this text
+  --version       show the version and the address of the service
+
+Commands for the running program:
+  next            change the desktop picture
+  previous        go back to the desktop picture before
+  hold            keep the desktop picture for an hour
+  current         tell source, date, caption, file and page of the desktop picture
+  set FILE        make a picture file the desktop
+  show            bring the window to the front
+  large           show a picture large: the desktop&apos;s, as a rule
+  browser         open the browser of the collection
+  quit            end the program
+
+Started a second time without a command, the program brings its window to the front and hands
+the sources over.
+
+Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (commands only).
+</source>
+        <translation>الاستخدام: moravel [--sources LIST]
+       أو: moravel COMMAND
+يعرض صور اليوم من مصادر كثيرة ويحفظها في مجلد الصور.
+
+الخيارات:
+  --sources LIST  تشغيل هذه المصادر وتذكّرها: أسماؤها الطويلة مفصولة بفواصل، أو all للكل
+  --json          مع current: الإجابة بصيغة JSON
+  -h, --help      عرض هذا النص
+  --version       عرض الإصدار وعنوان الخدمة
+
+أوامر للبرنامج قيد التشغيل:
+  next            تغيير خلفية سطح المكتب
+  previous        العودة إلى الخلفية السابقة
+  hold            إبقاء الخلفية ساعة واحدة
+  current         ذكر المصدر والتاريخ والشرح والملف والصفحة للخلفية
+  set FILE        جعل ملف صورة خلفيةً لسطح المكتب
+  show            إحضار النافذة إلى المقدمة
+  large           عرض صورة كبيرة، وهي الخلفية عادةً
+  browser         فتح مجموعة الصور
+  quit            إنهاء البرنامج
+
+إذا شُغّل البرنامج مرة ثانية دون أمر، أحضر نافذته إلى المقدمة وتسلّم المصادر.
+
+رموز الإنهاء: 0 تم؛ 1 رُفض أو لا إجابة؛ 2 معاملات خاطئة؛ 3 لا يعمل (للأوامر فقط).
+</translation>
+    </message>
+    <message>
+        <source>No desktop picture can be set here.</source>
+        <translation>لا يمكن تعيين خلفية هنا.</translation>
+    </message>
+    <message>
+        <source>There is nothing to show yet.</source>
+        <translation>لا يوجد ما يُعرض بعد.</translation>
+    </message>
+    <message>
+        <source>There is no such file; its path must be absolute.</source>
+        <translation>لا يوجد ملف كهذا؛ يجب أن يكون مساره مطلقًا.</translation>
+    </message>
+    <message>
+        <source>The file is not a picture that can be read.</source>
+        <translation>الملف ليس صورة يمكن قراءتها.</translation>
+    </message>
+    <message>
+        <source>It is not known what the desktop shows.</source>
+        <translation>لا يُعرف ما يعرضه سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>There is no previous desktop.</source>
+        <translation>لا توجد خلفية سابقة.</translation>
+    </message>
+    <message>
+        <source>The desktop changes every hour or more rarely.</source>
+        <translation>تتغير الخلفية كل ساعة أو أقل من ذلك.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>لا يوجد أمر باسم «%1».</translation>
+    </message>
+    <message>
+        <source>Moravel is still starting</source>
+        <translation>لا يزال Moravel يبدأ</translation>
+    </message>
+    <message>
+        <source>Moravel takes no actions</source>
+        <translation>Moravel لا يقبل أوامر</translation>
+    </message>
+    <message>
+        <source>Moravel is not running</source>
+        <translation>Moravel لا يعمل</translation>
+    </message>
+    <message>
+        <source>Moravel is running but does not answer</source>
+        <translation>Moravel يعمل لكنه لا يجيب</translation>
+    </message>
 </context>
 <context>
     <name>moravel::Browser</name>

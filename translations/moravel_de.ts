@@ -480,7 +480,7 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>the connection is metered</source>
-        <translation>die Verbindung nach Menge abgerechnet wird</translation>
+        <translation>die Verbindung getaktet ist</translation>
     </message>
     <message>
         <source>the battery is being saved</source>
@@ -513,6 +513,168 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     <message>
         <source>The desktop did not allow it.</source>
         <translation>Die Arbeitsumgebung hat es nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>Source:</source>
+        <translation>Quelle:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Caption:</source>
+        <translation>Bildunterschrift:</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>Page:</source>
+        <translation>Seite:</translation>
+    </message>
+    <message>
+        <source>Try &apos;moravel --help&apos;.</source>
+        <translation>„moravel --help“ zeigt mehr.</translation>
+    </message>
+    <message>
+        <source>the path of a picture</source>
+        <translation>den Pfad eines Bildes</translation>
+    </message>
+    <message>
+        <source>--sources needs &quot;all&quot; or a list of source names</source>
+        <translation>--sources braucht „all“ oder eine Liste von Quellennamen</translation>
+    </message>
+    <message>
+        <source>unknown option: %1</source>
+        <translation>unbekannte Option: %1</translation>
+    </message>
+    <message>
+        <source>--json goes with the command current</source>
+        <translation>--json gehört zum Befehl current</translation>
+    </message>
+    <message>
+        <source>unknown command: %1</source>
+        <translation>unbekannter Befehl: %1</translation>
+    </message>
+    <message>
+        <source>%1 does not go with the command %2</source>
+        <translation>%1 passt nicht zum Befehl %2</translation>
+    </message>
+    <message>
+        <source>%1 needs %2</source>
+        <translation>%1 braucht %2</translation>
+    </message>
+    <message>
+        <source>%1 cannot take: %2</source>
+        <translation>%1 nimmt nicht an: %2</translation>
+    </message>
+    <message>
+        <source>Usage: moravel [--sources LIST] [--hidden]
+  or:  moravel COMMAND
+Shows the pictures of the day of many sources and keeps them in your Pictures folder.
+
+Options:
+  --sources LIST  switch these sources on and remember it: long names with commas between,
+                  or all
+  --hidden        start without the window, in the tray (minimised where there is none)
+  --json          with current: answer in JSON
+  -h, --help      show this text
+  --version       show the version and the address of the service
+
+Commands for the running program:
+  next            change the desktop picture
+  previous        go back to the desktop picture before
+  hold            keep the desktop picture for an hour
+  current         tell source, date, caption, file and page of the desktop picture
+  set FILE        make a picture file the desktop
+  show            bring the window to the front
+  large           show a picture large: the desktop&apos;s, as a rule
+  browser         open the browser of the collection
+  quit            end the program
+
+Started a second time without a command, the program brings its window to the front and hands
+the sources over.
+
+Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (commands only).
+</source>
+        <translation>Aufruf: moravel [--sources LISTE]
+  oder: moravel BEFEHL
+Zeigt die Bilder des Tages vieler Quellen und bewahrt sie im Bilderordner auf.
+
+Optionen:
+  --sources LISTE  diese Quellen einschalten und sich das merken: lange Namen, durch Kommas
+                   getrennt, oder all (alle)
+  --json           mit current: Antwort in JSON
+  -h, --help       diesen Text zeigen
+  --version        die Version und die Adresse des Dienstes zeigen
+
+Befehle an das laufende Programm:
+  next             das Hintergrundbild wechseln
+  previous         zum vorigen Hintergrundbild zurückkehren
+  hold             das Hintergrundbild eine Stunde behalten
+  current          Quelle, Datum, Bildunterschrift, Datei und Seite des Hintergrundbilds nennen
+  set DATEI        eine Bilddatei zum Hintergrundbild machen
+  show             das Fenster nach vorn holen
+  large            ein Bild groß zeigen, in der Regel das Hintergrundbild
+  browser          die Bildersammlung öffnen
+  quit             das Programm beenden
+
+Ein zweites Mal ohne Befehl gestartet, holt das Programm sein Fenster nach vorn und übernimmt
+die Quellen.
+
+Rückgabewerte: 0 erledigt; 1 abgelehnt oder keine Antwort; 2 falsche Argumente; 3 läuft nicht
+(nur bei Befehlen).
+</translation>
+    </message>
+    <message>
+        <source>No desktop picture can be set here.</source>
+        <translation>Hier lässt sich kein Hintergrundbild setzen.</translation>
+    </message>
+    <message>
+        <source>There is nothing to show yet.</source>
+        <translation>Es gibt noch nichts zu zeigen.</translation>
+    </message>
+    <message>
+        <source>There is no such file; its path must be absolute.</source>
+        <translation>Diese Datei gibt es nicht; ihr Pfad muss absolut sein.</translation>
+    </message>
+    <message>
+        <source>The file is not a picture that can be read.</source>
+        <translation>Die Datei ist kein lesbares Bild.</translation>
+    </message>
+    <message>
+        <source>It is not known what the desktop shows.</source>
+        <translation>Es ist nicht bekannt, was der Schreibtisch zeigt.</translation>
+    </message>
+    <message>
+        <source>There is no previous desktop.</source>
+        <translation>Es gibt kein voriges Hintergrundbild.</translation>
+    </message>
+    <message>
+        <source>The desktop changes every hour or more rarely.</source>
+        <translation>Das Hintergrundbild wechselt jede Stunde oder seltener.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;.</source>
+        <translation>Den Befehl „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Moravel is still starting</source>
+        <translation>Moravel startet noch</translation>
+    </message>
+    <message>
+        <source>Moravel takes no actions</source>
+        <translation>Moravel nimmt keine Befehle an</translation>
+    </message>
+    <message>
+        <source>Moravel is not running</source>
+        <translation>Moravel läuft nicht</translation>
+    </message>
+    <message>
+        <source>Moravel is running but does not answer</source>
+        <translation>Moravel läuft, antwortet aber nicht</translation>
     </message>
 </context>
 <context>
@@ -925,7 +1087,7 @@ Ein Doppelklick stellt das Bild wieder her.</translation>
     </message>
     <message>
         <source>On a low or saved battery, on a metered connection, while another program fills the screen and while it is locked, nothing is fetched and the desktop stays.</source>
-        <translation>Bei schwachem oder geschontem Akku, bei nach Menge abgerechneter Verbindung, solange ein anderes Programm den Bildschirm füllt und solange er gesperrt ist, wird nichts geladen, und das Hintergrundbild bleibt.</translation>
+        <translation>Bei schwachem oder geschontem Akku, bei getakteter Verbindung, solange ein anderes Programm den Bildschirm füllt und solange er gesperrt ist, wird nichts geladen, und das Hintergrundbild bleibt.</translation>
     </message>
 </context>
 <context>

@@ -2,10 +2,13 @@
 #include "app/CurrentPicture.h"
 
 #include "base/Dates.h"
+#include "platform/Texts.h"
 #include "thumb/ThumbView.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <algorithm>
 
 namespace moravel {
 
@@ -20,11 +23,11 @@ struct Field
 const QList<Field> &fields()
 {
     static const QList<Field> list{
-        {QStringLiteral("source"), QStringLiteral("Source:  ")},
-        {QStringLiteral("date"), QStringLiteral("Date:    ")},
-        {QStringLiteral("caption"), QStringLiteral("Caption: ")},
-        {QStringLiteral("path"), QStringLiteral("File:    ")},
-        {QStringLiteral("page"), QStringLiteral("Page:    ")},
+        {QStringLiteral("source"), Texts::tr("Source:")},
+        {QStringLiteral("date"), Texts::tr("Date:")},
+        {QStringLiteral("caption"), Texts::tr("Caption:")},
+        {QStringLiteral("path"), Texts::tr("File:")},
+        {QStringLiteral("page"), Texts::tr("Page:")},
     };
     return list;
 }
@@ -58,11 +61,14 @@ QVariantMap currentPicture(const QString &path, const ThumbView &desktopCell, co
 
 QString pictureText(const QVariantMap &picture)
 {
+    qsizetype column = 0;
+    for (const Field &field : fields())
+        column = std::max(column, field.title.size() + 1);
     QString text;
     for (const Field &field : fields()) {
         const QString value = picture.value(field.key).toString();
         if (!value.isEmpty())
-            text += field.title + printable(value) + u'\n';
+            text += field.title.leftJustified(column) + printable(value) + u'\n';
     }
     return text;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/Options.h"
 
+#include "platform/Texts.h"
+
 #include <QHash>
 
 namespace moravel {
@@ -15,7 +17,7 @@ const QHash<QString, QStringList> &commands()
         {QStringLiteral("previous"), {}},
         {QStringLiteral("hold"), {}},
         {QStringLiteral("current"), {}},
-        {QStringLiteral("set"), {QStringLiteral("the path of a picture")}},
+        {QStringLiteral("set"), {Texts::tr("the path of a picture")}},
         {QStringLiteral("show"), {}},
         {QStringLiteral("large"), {}},
         {QStringLiteral("browser"), {}},
@@ -40,12 +42,12 @@ QString takeOption(Options &options, const QStringList &arguments, qsizetype &i)
         const bool inOne = arguments[i].contains(u'=');
         const QString value = inOne ? arguments[i].section(u'=', 1) : arguments.value(++i);
         if (value.isEmpty())
-            return QStringLiteral("--sources needs \"all\" or a list of source names");
+            return Texts::tr("--sources needs \"all\" or a list of source names");
         options.sources = value.split(u',', Qt::SkipEmptyParts);
         for (QString &source : *options.sources)
             source = source.trimmed();
     } else {
-        return QStringLiteral("unknown option: %1").arg(arguments[i]);
+        return Texts::tr("unknown option: %1").arg(arguments[i]);
     }
     return {};
 }
@@ -54,18 +56,18 @@ QString takeOption(Options &options, const QStringList &arguments, qsizetype &i)
 QString takeWords(Options &options, QStringList words)
 {
     if (words.isEmpty())
-        return options.json ? QStringLiteral("--json goes with the command current") : QString();
+        return options.json ? Texts::tr("--json goes with the command current") : QString();
     const QString command = words.takeFirst();
     const auto known = commands().constFind(command);
     if (known == commands().cend())
-        return QStringLiteral("unknown command: %1").arg(command);
+        return Texts::tr("unknown command: %1").arg(command);
     if (options.sources || (options.json && command != u"current"))
-        return QStringLiteral("%1 does not go with the command %2")
+        return Texts::tr("%1 does not go with the command %2")
             .arg(options.sources ? QStringLiteral("--sources") : QStringLiteral("--json"), command);
     if (words.size() < known->size())
-        return QStringLiteral("%1 needs %2").arg(command, known->at(words.size()));
+        return Texts::tr("%1 needs %2").arg(command, known->at(words.size()));
     if (words.size() > known->size())
-        return QStringLiteral("%1 cannot take: %2").arg(command, words.at(known->size()));
+        return Texts::tr("%1 cannot take: %2").arg(command, words.at(known->size()));
     options.command = command;
     options.arguments = words;
     if (options.action == Options::Action::Run)
@@ -96,7 +98,7 @@ tl::expected<Options, QString> parseOptions(const QStringList &arguments)
 
 QString helpText()
 {
-    return QStringLiteral(R"(Usage: moravel [--sources LIST] [--hidden]
+    return Texts::tr(R"(Usage: moravel [--sources LIST] [--hidden]
   or:  moravel COMMAND
 Shows the pictures of the day of many sources and keeps them in your Pictures folder.
 

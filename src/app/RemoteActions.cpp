@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/RemoteActions.h"
 
+#include "platform/Texts.h"
+
 #include <QFileInfo>
 #include <QHash>
 
@@ -17,19 +19,19 @@ using Action = std::function<void(RemoteControl &, const RemoteTargets &,
 
 constexpr qsizetype MostSources = 1000;
 
-tl::unexpected<QString> refused(const char *why)
+tl::unexpected<QString> refused(const QString &why)
 {
-    return tl::unexpected(QString::fromLatin1(why));
+    return tl::unexpected(why);
 }
 
 // An action of the menu on the tray's icon; @p notNow says why the menu would not offer it.
-Action onDesktop(DockCommand command, const char *notNow)
+Action onDesktop(DockCommand command, const QString &notNow)
 {
     return [command, notNow](RemoteControl &, const RemoteTargets &targets, const QVariantList &,
                              const Answer &answer) {
         DesktopManagement *desktop = targets.desktop;
         if (!desktop)
-            return answer(refused("No desktop picture can be set here."));
+            return answer(refused(Texts::tr("No desktop picture can be set here.")));
         if (!desktop->offers(command))
             return answer(refused(notNow));
         targets.platform.loop.inOrder([desktop, command] { desktop->run(command); });
@@ -44,7 +46,7 @@ Action onWindow(ShowsWindow RemoteTargets::*show)
         const ShowsWindow &shows = targets.*show;
         QWidget *window = shows ? shows() : nullptr;
         if (!window)
-            return answer(refused("There is nothing to show yet."));
+            return answer(refused(Texts::tr("There is nothing to show yet.")));
         bringToFront(*window);
         control.letToFront(*window->windowHandle());
         answer({});
@@ -61,13 +63,13 @@ void setFile(RemoteControl &, const RemoteTargets &targets, const QVariantList &
              const Answer &answer)
 {
     if (!targets.desktop)
-        return answer(refused("No desktop picture can be set here."));
+        return answer(refused(Texts::tr("No desktop picture can be set here.")));
     const QString path = arguments.value(0).toString();
     if (!canBeRead(path))
-        return answer(refused("There is no such file; its path must be absolute."));
+        return answer(refused(Texts::tr("There is no such file; its path must be absolute.")));
     targets.platform.images.size(path, [targets, path, answer](QSize size) {
         if (size.isEmpty())
-            return answer(refused("The file is not a picture that can be read."));
+            return answer(refused(Texts::tr("The file is not a picture that can be read.")));
         targets.platform.loop.inOrder(
             [desktop = targets.desktop, path] { desktop->setChosenDesktop(path); });
         answer({});
@@ -79,7 +81,7 @@ void tellCurrent(RemoteControl &, const RemoteTargets &targets, const QVariantLi
 {
     const QString path = targets.desktop ? targets.desktop->currentDesktopPath() : QString();
     if (path.isEmpty())
-        return answer(refused("It is not known what the desktop shows."));
+        return answer(refused(Texts::tr("It is not known what the desktop shows.")));
     answer(targets.pictureOfDesktop(path));
 }
 
@@ -102,11 +104,12 @@ void quit(RemoteControl &, const RemoteTargets &targets, const QVariantList &, c
 const QHash<QString, Action> &actions()
 {
     static const QHash<QString, Action> table{
-        {QStringLiteral("next"), onDesktop(DockCommand::RotateDesktop, "")},
+        {QStringLiteral("next"), onDesktop(DockCommand::RotateDesktop, {})},
         {QStringLiteral("previous"),
-         onDesktop(DockCommand::PreviousDesktop, "There is no previous desktop.")},
+         onDesktop(DockCommand::PreviousDesktop, Texts::tr("There is no previous desktop."))},
         {QStringLiteral("hold"),
-         onDesktop(DockCommand::HoldForOneHour, "The desktop changes every hour or more rarely.")},
+         onDesktop(DockCommand::HoldForOneHour,
+                   Texts::tr("The desktop changes every hour or more rarely."))},
         {QStringLiteral("current"), tellCurrent},
         {QStringLiteral("set"), setFile},
         {remoteaction::Show, onWindow(&RemoteTargets::showMainWindow)},
@@ -128,8 +131,7 @@ void tieRemoteControl(RemoteControl &control, const RemoteTargets &targets)
         if (action != actions().cend())
             (*action)(control, targets, arguments, answer);
         else
-            answer(
-                tl::unexpected(QStringLiteral("There is no command \"%1\".").arg(name.left(100))));
+            answer(tl::unexpected(Texts::tr("There is no command \"%1\".").arg(name.left(100))));
     };
 }
 

@@ -3,6 +3,7 @@
 #include "app/MoravelAppDelegate.h"
 #include "app/Translations.h"
 #include "app/Version.h"
+#include "platform/Texts.h"
 #include "platform/linux/LinuxTrash.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
@@ -52,8 +53,8 @@ constexpr int NotRunning = 3;
 std::optional<int> answeredAtOnce(const tl::expected<Options, QString> &options)
 {
     if (!options) {
-        std::fprintf(stderr, "moravel: %s\nTry 'moravel --help'.\n",
-                     qUtf8Printable(options.error()));
+        std::fprintf(stderr, "moravel: %s\n%s\n", qUtf8Printable(options.error()),
+                     qUtf8Printable(Texts::tr("Try 'moravel --help'.")));
         return UsageError;
     }
     if (options->action == Options::Action::PrintVersion)

@@ -3,6 +3,7 @@
 
 #include "moravel1adaptor.h"
 
+#include "platform/Texts.h"
 #include "platform/linux/session/Activation.h"
 #include "platform/linux/session/Log.h"
 #include "platform/linux/session/ProgramName.h"
@@ -116,7 +117,7 @@ void ProgramInstance::take(const QString &action, const QVariantList &arguments,
         m_waiting.append(request);
     else
         m_bus.send(request.message.createErrorReply(QDBusError::LimitsExceeded,
-                                                    QStringLiteral("Moravel is still starting")));
+                                                    Texts::tr("Moravel is still starting")));
 }
 
 void ProgramInstance::carryOut(const Request &request)
@@ -126,7 +127,7 @@ void ProgramInstance::carryOut(const Request &request)
         onAction(request.action, request.arguments,
                  [this, request](const Result &result) { reply(request, result); });
     else
-        reply(request, tl::unexpected(QStringLiteral("Moravel takes no actions")));
+        reply(request, tl::unexpected(Texts::tr("Moravel takes no actions")));
     endStartup(std::exchange(m_startupId, {}));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/session/RunningProgram.h"
 
+#include "platform/Texts.h"
 #include "platform/linux/session/ProgramName.h"
 
 #include <QDBusError>
@@ -29,10 +30,10 @@ tl::expected<QDBusMessage, RemoteError> call(const QDBusConnection &bus, const Q
     const QDBusError error(reply);
     if (!bus.isConnected() || error.name() == u"org.freedesktop.DBus.Error.NameHasNoOwner"
         || error.type() == QDBusError::ServiceUnknown)
-        return tl::unexpected(RemoteError{true, QStringLiteral("Moravel is not running")});
+        return tl::unexpected(RemoteError{true, Texts::tr("Moravel is not running")});
     if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
         return tl::unexpected(
-            RemoteError{false, QStringLiteral("Moravel is running but does not answer")});
+            RemoteError{false, Texts::tr("Moravel is running but does not answer")});
     return tl::unexpected(RemoteError{false, error.message()});
 }
 
