@@ -19,9 +19,10 @@ constexpr int LongestLine =
     300; // characters that a line of a label can show at most, with room to spare
 constexpr int LongestToolTip = 1500;
 
+// What a line ends with would push it inwards where lines end on the right.
 QString withoutBreak(QString line)
 {
-    if (line.endsWith(QChar::LineSeparator))
+    while (!line.isEmpty() && line.back().isSpace())
         line.chop(1);
     return line;
 }
@@ -152,16 +153,13 @@ void CaptionLabel::paintEvent(QPaintEvent *)
     }
     // The words run as their language does; all lines of a cell begin on the side where the window begins.
     painter.setLayoutDirection(m_text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    const Qt::Alignment side = m_centred ? Qt::AlignHCenter
-        : isRightToLeft()                ? Qt::AlignRight
-                                         : Qt::AlignLeft;
-    const int flags = static_cast<int>(Qt::TextSingleLine)
-        | static_cast<int>(Qt::AlignVCenter | Qt::AlignAbsolute | side);
-    const int step = fontMetrics().lineSpacing();
-    int top = 0;
+    // On one base line, also where letters of the text come from other fonts, which are higher.
+    const QFontMetrics metrics = fontMetrics();
+    int base = metrics.ascent() + metrics.leading() / 2;
     for (const QString &line : layoutFor(width(), linesThatFit()).lines) {
-        painter.drawText(QRect(0, top, width(), step), flags, line);
-        top += step;
+        const int rest = width() - metrics.horizontalAdvance(line);
+        painter.drawText(m_centred ? rest / 2 : isRightToLeft() ? rest : 0, base, line);
+        base += metrics.lineSpacing();
     }
 }
 
