@@ -611,12 +611,13 @@ the sources over.
 
 Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (commands only).
 </source>
-        <translation>الاستخدام: moravel [--sources LIST]
+        <translation>الاستخدام: moravel [--sources LIST] [--hidden]
        أو: moravel COMMAND
 يعرض صور اليوم من مصادر كثيرة ويحفظها في مجلد الصور.
 
 الخيارات:
   --sources LIST  تشغيل هذه المصادر وتذكّرها: أسماؤها الطويلة مفصولة بفواصل، أو all للكل
+  --hidden        البدء بلا نافذة، في منطقة الإشعارات (أو مصغرًا حيث لا توجد)
   --json          مع current: الإجابة بصيغة JSON
   -h, --help      عرض هذا النص
   --version       عرض الإصدار وعنوان الخدمة

@@ -599,13 +599,14 @@ the sources over.
 
 Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (commands only).
 </source>
-        <translation>Aufruf: moravel [--sources LISTE]
+        <translation>Aufruf: moravel [--sources LISTE] [--hidden]
   oder: moravel BEFEHL
 Zeigt die Bilder des Tages vieler Quellen und bewahrt sie im Bilderordner auf.
 
 Optionen:
   --sources LISTE  diese Quellen einschalten und sich das merken: lange Namen, durch Kommas
                    getrennt, oder all (alle)
+  --hidden         ohne Fenster starten, im Infobereich (minimiert, wo es keinen gibt)
   --json           mit current: Antwort in JSON
   -h, --help       diesen Text zeigen
   --version        die Version und die Adresse des Dienstes zeigen
