@@ -56,7 +56,8 @@ void installTranslations(QCoreApplication &app, const QStringList &wanted)
     if (!install(app, QStringLiteral("qtbase_") + language,
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         qCInfo(lcApp) << "no translation of Qt's own texts:" << language;
-    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    if (qobject_cast<QGuiApplication *>(&app)) // a command has no windows
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
 }
 
 } // namespace moravel
