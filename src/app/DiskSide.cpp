@@ -6,12 +6,16 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace moravel {
 
 namespace {
 
 // After the start and after the last picture that came: a pass brings many.
 constexpr double TidySeconds = 60;
+
+constexpr std::size_t AtOnce = 50; // pictures; a second or so
 
 } // namespace
 
@@ -163,34 +167,40 @@ void DiskSide::tidy()
 {
     m_soon.reset();
     const int gigabytes = m_preferences.readDiskLimit();
-    if (!m_context.platform.trash || gigabytes == 0)
+    if (!m_context.platform.trash || gigabytes == 0 || m_isTidying)
         return;
     look([this, gigabytes](const Collection &collection) {
         letGo(picturesToLetGo(collection, bytesOfGigabytes(gigabytes)));
     });
 }
 
-// Remembered before they go: a picture that went unremembered would be fetched at the next pass.
-void DiskSide::letGo(const std::vector<SparePicture> &pictures)
+// A few at a time, and remembered when they are gone: where the program ends in between, what is still here
+// must not look as if the user had taken it out of the Trash.
+void DiskSide::letGo(std::vector<SparePicture> pictures)
 {
+    m_isTidying = !pictures.empty();
     if (pictures.empty())
         return;
+    const std::size_t count = std::min(pictures.size(), AtOnce);
     const QString folder = m_context.folders.moravelFolder();
     QStringList names;
     QStringList paths;
-    for (const SparePicture &picture : pictures) {
-        names.append(picture.name);
-        paths.append(folder + picture.name);
+    for (std::size_t i = 0; i < count; ++i) {
+        names.append(pictures[i].name);
+        paths.append(folder + pictures[i].name);
     }
-    m_letGo.insert(names);
-    const auto done = [this, names, self = QPointer(this)](const QList<FileResult<void>> &results) {
-        QStringList stayed;
+    pictures.erase(pictures.begin(), pictures.begin() + static_cast<std::ptrdiff_t>(count));
+    const auto done = [this, names, rest = std::move(pictures),
+                       self = QPointer(this)](const QList<FileResult<void>> &results) {
+        if (!self)
+            return;
+        QStringList gone;
         for (qsizetype i = 0; i < results.size(); ++i) {
-            if (!results[i])
-                stayed.append(names[i]);
+            if (results[i])
+                gone.append(names[i]);
         }
-        if (self)
-            m_letGo.remove(stayed);
+        m_letGo.insert(gone);
+        letGo(rest);
     };
     m_context.platform.trash->moveToTrash(paths, done);
 }

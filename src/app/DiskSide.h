@@ -64,7 +64,7 @@ private:
     void showSheet();
     void tidySoon();
     void tidy();
-    void letGo(const std::vector<SparePicture> &pictures);
+    void letGo(std::vector<SparePicture> pictures);
 
     ServiceContext m_context;
     Preferences &m_preferences;
@@ -73,6 +73,7 @@ private:
     NameList m_desktops; ///< Set by the user, at any time.
     NameList m_letGo;
     QString m_forDesktop; ///< Path of the picture that becomes the desktop when it has come.
+    bool m_isTidying = false; ///< Pictures are on their way to the Trash.
     MainWindow *m_window = nullptr;
     DelayedCallHandle m_soon;
     Worker m_worker; ///< Last: its thread uses the others.
