@@ -13,8 +13,10 @@
 
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScreen>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace moravel {
@@ -23,6 +25,7 @@ namespace {
 
 constexpr int StartColumns = 4;
 constexpr int StartHeight = 760;
+constexpr int FrameHeight = 40; // points that a window frame takes at most
 
 /// Width of a window whose grid has room for that many columns, with a margin on both sides.
 int windowWidthFor(int columns, const GridView &grid)
@@ -144,7 +147,9 @@ QAction *MainWindow::makeFullScreenItem()
 void MainWindow::setStartSize()
 {
     setMinimumWidth(windowWidthFor(1, grid()));
-    resize(windowWidthFor(StartColumns, grid()), StartHeight);
+    // Where the desktop's panel and frame leave less, the status bar would be off the screen.
+    const int fitting = screen()->availableGeometry().height() - FrameHeight;
+    resize(windowWidthFor(StartColumns, grid()), std::min(StartHeight, fitting));
 }
 
 GridView &MainWindow::grid() const
