@@ -2,6 +2,9 @@
 #include "app/WindowPlaces.h"
 
 #include <QEvent>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace moravel {
 
@@ -14,6 +17,23 @@ bool mayHaveMoved(QEvent::Type type)
     return type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange;
 }
 
+constexpr QMargins Frame(8, 32, 8, 8); ///< Points that a window's frame takes at most.
+
+/// Brings a window wholly onto its screen: it may have lain on one that is not there any more.
+void bringOntoScreen(QWidget &window)
+{
+    const QRect screen = window.screen()->availableGeometry();
+    QRect place = window.geometry();
+    if (screen.contains(place))
+        return;
+    const QRect room = screen.marginsRemoved(Frame);
+    place.setSize(place.size().boundedTo(room.size()));
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveTopLeft({std::max(place.left(), room.left()), std::max(place.top(), room.top())});
+    window.setGeometry(place);
+}
+
 } // namespace
 
 WindowPlaces::WindowPlaces(Preferences &preferences, MainLoop &loop)
@@ -23,8 +43,11 @@ WindowPlaces::WindowPlaces(Preferences &preferences, MainLoop &loop)
 void WindowPlaces::follow(QWidget &window, const QString &name)
 {
     const QByteArray place = m_preferences.readWindowPlace(name);
-    if (!place.isEmpty() && window.restoreGeometry(place))
+    if (!place.isEmpty() && window.restoreGeometry(place)) {
         window.setWindowState(window.windowState() & ~(Qt::WindowFullScreen | Qt::WindowMinimized));
+        if (!window.isMaximized())
+            bringOntoScreen(window);
+    }
     m_windows[&window] = {name, place};
     window.installEventFilter(this);
     connect(&window, &QObject::destroyed, this, [this, &window] { m_windows.erase(&window); });
