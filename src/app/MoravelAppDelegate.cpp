@@ -188,6 +188,7 @@ void MoravelAppDelegate::buildWindow()
     };
     SourceGridPorts ports;
     ports.startPass = [this](double seconds) { startPass(seconds); };
+    ports.sourcesChosen = [this] { m_service.sourcesChosen(); };
     ports.retry = [this] { askForSourcesAgain(); };
     if (m_thumbnails) {
         m_browser = std::make_unique<BrowserSide>(m_context, m_legacy, m_preferences, *m_thumbnails,

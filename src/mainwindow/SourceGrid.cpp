@@ -232,6 +232,8 @@ QWidget *SourceGrid::makePanel(GridState state)
     connect(panel, &WelcomePanel::sourcesChosen, this, [this](const QList<int> &tags) {
         for (const int tag : tags)
             changedSource(tag);
+        if (m_ports.sourcesChosen)
+            m_ports.sourcesChosen();
     });
     return panel;
 }

@@ -25,6 +25,8 @@ struct SourceGridPorts
     std::function<void(double seconds)> rotateDesktop;
     /// Adds a source to the browser's source filter.
     std::function<void(const QString &longName)> addSourcePopupItem;
+    /// The user has chosen the first sources; the pass that has gone by meanwhile had none to show.
+    std::function<void()> sourcesChosen;
     /// Asks the service for the sources again; offered while none is known.
     std::function<void()> retry;
 };

@@ -30,6 +30,14 @@ PictureService::PictureService(const ServiceContext &context, const QString &bas
     });
 }
 
+void PictureService::sourcesChosen()
+{
+    if (m_state.pass == PassState::Pass::Pictures)
+        m_state.thumbIndex = 0; // pictures that are there already are passed over
+    else if (m_state.pass == PassState::Pass::None && m_state.lastDataCheck)
+        m_picturePass.loadNextPic();
+}
+
 void PictureService::catchUp()
 {
     if (!m_thumbPass.catchUp())

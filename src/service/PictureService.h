@@ -48,6 +48,9 @@ public:
     /// Goes on downloading the large pictures that are missing.
     void loadNextPic() { m_picturePass.loadNextPic(); }
 
+    /// The first sources have been chosen: their large pictures are due now, not after the next hour's pass.
+    void sourcesChosen();
+
     /// Makes up, once, for what had to wait.
     void catchUp();
 

@@ -346,6 +346,19 @@ TEST_F(Pass, hiddenCellsAreSkippedAndQuittingLeavesNothing)
     EXPECT_TRUE(QDir(w.pictureFolder()).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
 
+TEST_F(Pass, picturesOfTheFirstChosenSourcesComeAtOnce)
+{
+    for (int i = 0; i < 3; ++i)
+        w.cell(i).setHidden(true);
+    w.startPass(30);
+    EXPECT_TRUE(QDir(w.pictureFolder()).entryList(QDir::Files).isEmpty());
+    for (int i = 0; i < 3; ++i)
+        w.cell(i).setHidden(false);
+    w.service->sourcesChosen();
+    w.run(10);
+    EXPECT_EQ(QDir(w.pictureFolder()).entryList(QDir::Files).size(), 3);
+}
+
 TEST(Sources, keptForAStartWithoutNetwork)
 {
     World w;
