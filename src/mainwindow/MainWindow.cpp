@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
+#include "mainwindow/Accessibility.h"
 #include "mainwindow/CheckItem.h"
 #include "mainwindow/DateNavigation.h"
 #include "mainwindow/GridLayout.h"
@@ -46,6 +47,7 @@ QAction *makeAction(const QString &title, const QString &icon, const QString &to
 MainWindow::MainWindow(ThumbCells &cells, DatePicker &datePicker, DateNavigation &navigation,
                        ToolTips &toolTips)
 {
+    installAccessibility();
     setObjectName(QStringLiteral("window"));
     setWindowTitle(tr("Moravel"));
     setContextMenuPolicy(Qt::NoContextMenu);
