@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyle>
 
 namespace moravel {
 

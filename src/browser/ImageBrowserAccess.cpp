@@ -55,7 +55,8 @@ public:
     QAccessible::State state() const override
     {
         QAccessible::State state;
-        state.selectable = state.focusable = true;
+        state.selectable = true;
+        state.focusable = true;
         state.selected = m_view->selectionModel()->isSelected(index());
         state.focused = m_view->hasFocus() && m_view->currentIndex() == index();
         state.offscreen = !m_view->viewport()->rect().intersects(m_view->visualRect(index()));

@@ -16,7 +16,7 @@ const QColor Plate(20, 20, 24, 205); // white on it is readable above any pictur
 constexpr int SmallSign = 16;
 constexpr int LargeSign = 40;
 constexpr int Gap = 6;
-constexpr int WrapFlags = Qt::TextWordWrap | Qt::TextIncludeTrailingSpaces;
+constexpr int WrapFlags = static_cast<int>(Qt::TextWordWrap);
 
 QString signOf(CellState state)
 {
@@ -80,7 +80,8 @@ void CellNotice::paintStrip(QPainter &painter)
                        iconPixmap(signOf(m_state), SmallSign, Qt::white, devicePixelRatioF()));
     painter.setPen(Qt::white);
     room.setHeight(strip.height());
-    painter.drawText(room, flags | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft), m_text);
+    const Qt::Alignment side = isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft;
+    painter.drawText(room, flags | static_cast<int>(side | Qt::AlignAbsolute), m_text);
 }
 
 void CellNotice::paintMiddle(QPainter &painter)

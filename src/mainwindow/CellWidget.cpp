@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CellWidget.h"
 
+#include "mainwindow/Accessibility.h"
 #include "mainwindow/CaptionLabel.h"
 #include "mainwindow/CellButton.h"
 #include "mainwindow/CellMenu.h"
@@ -38,6 +39,7 @@ int cardTop(const ThumbView &view)
 
 CellWidget::CellWidget(ThumbView &view, QWidget *parent) : QWidget(parent), m_view(view)
 {
+    installAccessibility();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(CardSide + 1, cardTop(m_view) + 1, CardSide + 1, CardBottom + 8);
     column->setSpacing(0);

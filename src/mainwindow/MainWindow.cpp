@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/MainWindow.h"
 
-#include "mainwindow/Accessibility.h"
 #include "mainwindow/CheckItem.h"
 #include "mainwindow/DateNavigation.h"
 #include "mainwindow/GridLayout.h"
@@ -47,7 +46,6 @@ QAction *makeAction(const QString &title, const QString &icon, const QString &to
 MainWindow::MainWindow(ThumbCells &cells, DatePicker &datePicker, DateNavigation &navigation,
                        ToolTips &toolTips)
 {
-    installAccessibility();
     setObjectName(QStringLiteral("window"));
     setWindowTitle(tr("Moravel"));
     setContextMenuPolicy(Qt::NoContextMenu);

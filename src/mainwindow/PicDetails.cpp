@@ -42,12 +42,14 @@ PicDetails::PicDetails(QWidget *parent) : QTextBrowser(parent)
 
 void PicDetails::showHtml(const QString &safeHtml)
 {
-    setHtml(infoDocument(safeHtml));
+    m_html = infoDocument(safeHtml);
+    setHtml(m_html);
     verticalScrollBar()->setValue(0);
 }
 
 void PicDetails::showText(const QString &text)
 {
+    m_html.clear();
     setPlainText(text);
     verticalScrollBar()->setValue(0);
 }
@@ -75,6 +77,8 @@ void PicDetails::followPalette()
     setPalette(own);
     const QString link = readableLink(own).name();
     document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link));
+    if (!m_html.isEmpty())
+        setHtml(m_html);
 }
 
 } // namespace moravel

@@ -82,7 +82,7 @@ void LookSettings::read()
     reading.gnomeScheme = m_gnome.text("color-scheme");
     reading.kdeFactor = kdeFactor(m_kde.path());
     reading.portal = m_portal;
-    if (const DesktopLook look = lookFrom(reading); std::exchange(m_look, look) == look)
+    if (const DesktopLook now = lookFrom(reading); std::exchange(m_look, now) == now)
         return;
     if (onChanged)
         onChanged();
