@@ -780,6 +780,13 @@ Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (co
     </message>
 </context>
 <context>
+    <name>moravel::CellButtonBar</name>
+    <message>
+        <source>Commands</source>
+        <translation>الأوامر</translation>
+    </message>
+</context>
+<context>
     <name>moravel::CellWidget</name>
     <message>
         <source>Current desktop</source>
@@ -1187,6 +1194,26 @@ Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (co
     <message>
         <source>Refresh the data for this pic.</source>
         <translation>تحديث بيانات هذه الصورة.</translation>
+    </message>
+    <message>
+        <source>Nothing on %1</source>
+        <translation>لا شيء في %1</translation>
+    </message>
+    <message>
+        <source>No answer for %1</source>
+        <translation>لا رد عن %1</translation>
+    </message>
+    <message>
+        <source>Nothing from this day to %1</source>
+        <translation>لا شيء من هذا اليوم حتى %1</translation>
+    </message>
+    <message>
+        <source>The picture service did not answer</source>
+        <translation>لم تستجب خدمة الصور</translation>
+    </message>
+    <message>
+        <source>The picture could not be loaded</source>
+        <translation>تعذّر تحميل الصورة</translation>
     </message>
 </context>
 <context>

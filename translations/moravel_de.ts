@@ -767,6 +767,13 @@ Rückgabewerte: 0 erledigt; 1 abgelehnt oder keine Antwort; 2 falsche Argumente;
     </message>
 </context>
 <context>
+    <name>moravel::CellButtonBar</name>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+</context>
+<context>
     <name>moravel::CellWidget</name>
     <message>
         <source>Current desktop</source>
@@ -1174,6 +1181,26 @@ Rückgabewerte: 0 erledigt; 1 abgelehnt oder keine Antwort; 2 falsche Argumente;
     <message>
         <source>Refresh the data for this pic.</source>
         <translation>Die Angaben zu diesem Bild aktualisieren.</translation>
+    </message>
+    <message>
+        <source>Nothing on %1</source>
+        <translation>Nichts am %1</translation>
+    </message>
+    <message>
+        <source>No answer for %1</source>
+        <translation>Keine Antwort für %1</translation>
+    </message>
+    <message>
+        <source>Nothing from this day to %1</source>
+        <translation>Nichts von diesem Tag bis %1</translation>
+    </message>
+    <message>
+        <source>The picture service did not answer</source>
+        <translation>Der Bilderdienst hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>The picture could not be loaded</source>
+        <translation>Das Bild ließ sich nicht laden</translation>
     </message>
 </context>
 <context>

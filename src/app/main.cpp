@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/CurrentPicture.h"
+#include "app/Look.h"
 #include "app/MoravelAppDelegate.h"
 #include "app/Translations.h"
 #include "app/Version.h"
@@ -8,6 +9,7 @@
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/DesktopChoice.h"
 #include "platform/linux/desktops/FullScreenWatch.h"
+#include "platform/linux/desktops/LookSettings.h"
 #include "platform/linux/session/Activation.h"
 #include "platform/linux/session/AutostartEntry.h"
 #include "platform/linux/session/AutostartPortal.h"
@@ -251,6 +253,9 @@ int runApplication(QApplication &app, const Options &options, const QVariantMap 
          QStringLiteral(MORAVEL_SERVICE_CONFIG)},
         loop);
     LinuxSession session;
+    LookSettings look(QDBusConnection::sessionBus());
+    look.onChanged = [&look] { applyLook(look.look()); };
+    look.onChanged();
     const std::unique_ptr<Autostart> autostart = makeAutostart(defaults);
     MoravelAppDelegate delegate({loop, http, defaults, files, alerts, images, random, &trash,
                                  &programs, &session.surroundings, autostart.get()},

@@ -225,6 +225,13 @@ void BrowserWindow::stepZoom(int steps)
     m_zoomSlider->setValue(m_zoomSlider->value() + steps * ZoomStep);
 }
 
+void BrowserWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        setBrowserBackground();
+}
+
 /// From the search field, Escape clears it, and the keys that lead into the grid do so.
 bool BrowserWindow::eventFilter(QObject *watched, QEvent *event)
 {

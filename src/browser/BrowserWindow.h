@@ -58,6 +58,7 @@ Q_SIGNALS:
     void zoomSliderDidChange(float zoom);
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

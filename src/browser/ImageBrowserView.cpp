@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "browser/ImageBrowserView.h"
 
+#include "browser/ImageBrowserAccess.h"
 #include "browser/ImageDelegate.h"
 
+#include <QAccessible>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -16,6 +18,7 @@ namespace moravel {
 ImageBrowserView::ImageBrowserView(ImageDelegate *delegate, QWidget *parent)
     : QAbstractItemView(parent), m_delegate(delegate)
 {
+    installBrowserAccessibility();
     delegate->setParent(this);
     setItemDelegate(delegate);
     setFrameShape(QFrame::NoFrame);
@@ -207,6 +210,16 @@ QItemSelection ImageBrowserView::itemsInBand(const QRect &band) const
     for (int row = rows.first; row <= rows.last; row += width)
         items += itemsBetween(row + columns.first, std::min(row + columns.last, rows.last));
     return items;
+}
+
+void ImageBrowserView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QAbstractItemView::currentChanged(current, previous);
+    if (!QAccessible::isActive() || !current.isValid() || !hasFocus())
+        return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current.row());
+    QAccessible::updateAccessibility(&event);
 }
 
 /// The rubber band takes what it touches; keys and clicks take what lies between two items as one reads.

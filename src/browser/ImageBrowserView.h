@@ -71,6 +71,7 @@ protected:
     bool isIndexHidden(const QModelIndex &) const override { return false; }
 
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;

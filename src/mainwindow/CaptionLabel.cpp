@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CaptionLabel.h"
 
-#include "mainwindow/Icons.h"
+#include "mainwindow/Contrast.h"
 
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -56,7 +56,7 @@ void CaptionLabel::setText(const QString &text)
         return;
     m_text = text;
     m_layoutWidth = -1;
-    setAccessibleName(text.left(LongestToolTip));
+    setAccessibleName(text.isEmpty() ? m_placeholder : text.left(LongestToolTip));
     updateGeometry();
     update();
 }
@@ -76,6 +76,8 @@ void CaptionLabel::setSecondary(bool secondary)
 void CaptionLabel::setPlaceholder(const QString &placeholder)
 {
     m_placeholder = placeholder;
+    if (m_text.isEmpty())
+        setAccessibleName(placeholder);
     update();
 }
 
@@ -145,7 +147,7 @@ void CaptionLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QColor text = palette().color(foregroundRole());
-    const QColor quiet = blend(text, palette().color(QPalette::Base), 0.62);
+    const QColor quiet = quietText(text, palette().color(QPalette::Base));
     painter.setPen(m_secondary || m_text.isEmpty() ? quiet : text);
     if (m_text.isEmpty()) {
         painter.drawText(rect(), Qt::AlignCenter, m_placeholder);

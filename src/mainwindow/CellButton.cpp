@@ -34,6 +34,7 @@ void CellButton::paintEvent(QPaintEvent *)
 
 CellButtonBar::CellButtonBar(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleName(tr("Commands"));
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(3, 2, 3, 2);
     layout->setSpacing(1);

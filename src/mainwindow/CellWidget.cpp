@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/CellWidget.h"
 
+#include "mainwindow/Accessibility.h"
 #include "mainwindow/CaptionLabel.h"
 #include "mainwindow/CellButton.h"
 #include "mainwindow/CellMenu.h"
+#include "mainwindow/CellNotice.h"
+#include "mainwindow/Contrast.h"
 #include "mainwindow/Icons.h"
 #include "mainwindow/PictureView.h"
 #include "mainwindow/Spinner.h"
@@ -36,6 +39,7 @@ int cardTop(const ThumbView &view)
 
 CellWidget::CellWidget(ThumbView &view, QWidget *parent) : QWidget(parent), m_view(view)
 {
+    installAccessibility();
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(CardSide + 1, cardTop(m_view) + 1, CardSide + 1, CardBottom + 8);
     column->setSpacing(0);
@@ -54,6 +58,7 @@ void CellWidget::buildPicture()
     m_clicker->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_clicker->setProperty("tag", m_view.tag());
     m_clicker->installEventFilter(this);
+    m_notice = new CellNotice(m_picture);
     m_spinner = new Spinner(m_picture);
     m_bar = new CellButtonBar(m_picture);
     m_bar->hide();
@@ -62,6 +67,7 @@ void CellWidget::buildPicture()
     layers->setSpacing(0);
     layers->setRowStretch(0, 1);
     layers->setRowMinimumHeight(1, 9);
+    layers->addWidget(m_notice, 0, 0, 2, 1);
     layers->addWidget(m_clicker, 0, 0, 2, 1);
     layers->addWidget(m_spinner, 0, 0, 2, 1, Qt::AlignCenter);
     layers->addWidget(m_bar, 0, 0, Qt::AlignHCenter | Qt::AlignBottom);
@@ -130,18 +136,30 @@ void CellWidget::follow()
     setVisible(!m_view.isHidden());
     m_sourceField->setText(m_view.sourceField());
     m_dateField->setText(m_view.dateField());
-    m_captionField->setText(m_view.captionField());
-    m_picture->setImage(m_view.imageView());
-    m_picture->setPlaceholderShown(!m_view.isSpinning());
-    m_spinner->setVisible(m_view.isSpinning());
-    QStringList parts{m_view.sourceField(), m_view.dateField(), m_view.captionField()};
-    parts.removeAll(QString());
-    const QString name =
-        parts.isEmpty() ? m_sourceField->placeholder() : parts.join(QStringLiteral(", "));
-    if (name != m_clicker->accessibleName())
-        m_clicker->setAccessibleName(name);
+    m_captionField->setText(shownCaption(m_view));
+    followState();
     followToolTips();
     followButtons();
+}
+
+void CellWidget::followState()
+{
+    const CellState state = cellState(m_view);
+    const QString text = stateText(m_view);
+    const bool isEmpty = !hasPicture(m_view) && state != CellState::Deleted;
+    const bool isAwaited = isEmpty && state == CellState::Looking;
+    const bool isExplained = isEmpty && !text.isEmpty();
+    m_picture->setImage(isExplained ? QImage() : m_view.imageView());
+    m_picture->setPlaceholderShown(!isAwaited && !isExplained);
+    m_spinner->setVisible(isAwaited);
+    m_notice->tell(state, text);
+    const QString spoken = spokenText(m_view);
+    const QString name = spoken.isEmpty() ? m_sourceField->placeholder() : spoken;
+    if (name == m_clicker->accessibleName())
+        return;
+    m_clicker->setAccessibleName(name);
+    m_picture->setAccessibleName(name);
+    setAccessibleName(m_view.sourceField().isEmpty() ? name : m_view.sourceField());
 }
 
 void CellWidget::followToolTips()
@@ -246,7 +264,9 @@ void CellWidget::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(card, Radius, Radius);
     if (m_clicker->hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        const QColor around = palette().color(QPalette::Window);
+        painter.setPen(
+            QPen(readableOn(around, palette().color(QPalette::Highlight), ShapeContrast), 2));
         painter.drawRoundedRect(card.adjusted(-1, -1, 1, 1), Radius + 1, Radius + 1);
     }
 }

@@ -10,6 +10,7 @@ namespace moravel {
 class CaptionLabel;
 class CellButton;
 class CellButtonBar;
+class CellNotice;
 class Clicker;
 class PictureView;
 class Spinner;
@@ -46,6 +47,7 @@ private:
     CellButton *addButton(const QString &objectName, const QString &iconName, const QString &name,
                           std::function<void()> command);
     void follow();
+    void followState();
     void followToolTips();
     void followButtons();
     bool hasFocusInside() const;
@@ -54,6 +56,7 @@ private:
     PictureView *m_picture = nullptr;
     Clicker *m_clicker = nullptr;
     Spinner *m_spinner = nullptr;
+    CellNotice *m_notice = nullptr;
     CellButtonBar *m_bar = nullptr;
     CellButton *m_deleteBtn = nullptr;
     CellButton *m_infoButton = nullptr;

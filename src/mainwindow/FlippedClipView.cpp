@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mainwindow/FlippedClipView.h"
 
+#include "mainwindow/Contrast.h"
+
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -19,12 +21,16 @@ QPalette FlippedClipView::lightPalette()
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         palette.setColor(role, text);
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor(0x8a, 0x8a, 0x8e));
+        palette.setColor(QPalette::Disabled, role, QColor(0x66, 0x66, 0x6a));
     palette.setColor(QPalette::Window, grey);
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Button, QColor(0xe9, 0xe9, 0xe9));
-    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText, QPalette::Link})
-        palette.setColor(role, QGuiApplication::palette().color(role));
+    const QPalette desktop = QGuiApplication::palette();
+    const QColor highlight = desktop.color(QPalette::Highlight);
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText,
+                     readableOn(highlight, desktop.color(QPalette::HighlightedText)));
+    palette.setColor(QPalette::Link, readableOn(grey, desktop.color(QPalette::Link)));
     return palette;
 }
 

@@ -109,6 +109,14 @@ void GridView::resizeEvent(QResizeEvent *event)
     Q_EMIT resized();
 }
 
+void GridView::changeEvent(QEvent *event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        setPalette(
+            FlippedClipView::lightPalette()); // the colours of what is selected are others now
+}
+
 const GridView::Slot *GridView::focusedSlot() const
 {
     const QWidget *focus = widget()->focusWidget();

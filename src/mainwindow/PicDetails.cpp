@@ -2,13 +2,11 @@
 #include "mainwindow/PicDetails.h"
 
 #include "mainwindow/CaptionLabel.h"
-#include "mainwindow/Icons.h"
+#include "mainwindow/Contrast.h"
 #include "mainwindow/PicInfo.h"
 
 #include <QEvent>
 #include <QScrollBar>
-
-#include <cstdlib>
 
 namespace moravel {
 
@@ -19,11 +17,7 @@ constexpr int TypeSize = 13; // pixels
 /// Some dark palettes keep the dark blue of links on white.
 QColor readableLink(const QPalette &palette)
 {
-    constexpr int Apart = 100; // of 255
-    const QColor link = palette.color(QPalette::Link);
-    const int ground = palette.color(QPalette::Window).lightness();
-    const bool isReadable = std::abs(link.lightness() - ground) >= Apart;
-    return isReadable ? link : blend(link, palette.color(QPalette::WindowText), 0.4);
+    return readableOn(palette.color(QPalette::Window), palette.color(QPalette::Link));
 }
 
 } // namespace
@@ -48,12 +42,14 @@ PicDetails::PicDetails(QWidget *parent) : QTextBrowser(parent)
 
 void PicDetails::showHtml(const QString &safeHtml)
 {
-    setHtml(infoDocument(safeHtml));
+    m_html = infoDocument(safeHtml);
+    setHtml(m_html);
     verticalScrollBar()->setValue(0);
 }
 
 void PicDetails::showText(const QString &text)
 {
+    m_html.clear();
     setPlainText(text);
     verticalScrollBar()->setValue(0);
 }
@@ -81,6 +77,8 @@ void PicDetails::followPalette()
     setPalette(own);
     const QString link = readableLink(own).name();
     document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(link));
+    if (!m_html.isEmpty())
+        setHtml(m_html);
 }
 
 } // namespace moravel

@@ -27,6 +27,8 @@ protected:
 
 private:
     void followPalette();
+
+    QString m_html; ///< Shown anew when the colours change.
 };
 
 } // namespace moravel

@@ -6,7 +6,7 @@
 
 namespace moravel {
 
-/// A small wheel that turns while something is awaited. It ticks only while it is really on screen:
+/// A small wheel that turns while something is awaited, or three dots that stand still. It ticks only while it is really on screen:
 /// painting starts the clock, a tick that finds nothing visible stops it.
 class Spinner : public QWidget
 {
@@ -17,6 +17,9 @@ public:
 
     QSize sizeHint() const override { return {28, 28}; }
 
+    /// Whether spinners may turn, for people whom moving things disturb; else three dots stand still.
+    static void setMotionAllowed(bool allowed);
+
     bool isTicking() const { return m_clock.isActive(); }
 
 protected:
@@ -25,6 +28,10 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    bool mayMove() const;
+    void paintWheel(QPainter &painter, double radius) const;
+    void paintDots(QPainter &painter, double radius) const;
+
     QBasicTimer m_clock;
     int m_step = 0;
 };

@@ -53,6 +53,7 @@ void ConnectionQueue::addConnectionToQueue(const QString &url, ThumbView &cell,
                                            const QString &method)
 {
     m_queue.push_back({url, &cell, method, cell.dateString()});
+    cell.setSearch(ThumbView::Search::Looking);
     if (!m_check)
         scheduleCheck();
 }
@@ -90,6 +91,8 @@ void ConnectionQueue::checkConnectionQueue()
         return;
     // Nothing would ever answer, so the queue stays stopped; only a wrong base URL gets here.
     qCWarning(lcService) << "request cannot be sent:" << head.URL;
+    if (head.thumb)
+        head.thumb->setSearch(ThumbView::Search::Failed);
     m_queue.pop_front();
 }
 
@@ -109,8 +112,12 @@ void ConnectionQueue::connectionDidFinishLoading()
     const QString answer = cleanedAnswer(m_receivedData);
     const Connector head = m_queue.front();
     m_queue.pop_front();
-    if (head.thumb)
+    if (head.thumb) {
         head.thumb->showDate(head.connectionDate);
+        // Nobody goes on with an empty answer: the cell waits for the next pass.
+        head.thumb->setSearch(answer.isEmpty() ? ThumbView::Search::Failed
+                                               : ThumbView::Search::None);
+    }
     if (answer.isEmpty())
         end();
     else
@@ -122,6 +129,8 @@ void ConnectionQueue::connectionDidFailWithError(const HttpError &error)
     m_ports.status(error.description);
     m_connectionFailed = true;
     const Connector head = m_queue.front();
+    if (head.thumb)
+        head.thumb->setSearch(ThumbView::Search::Failed);
     process(head, QString(), [this] {
         m_queue.pop_front();
         end();

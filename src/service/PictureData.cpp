@@ -87,6 +87,8 @@ void PictureData::tryDayBefore(ThumbView &cell, const QString &localDate, const 
     // Seconds, not calendar days: across a change to summer time the step lands a day earlier.
     const QDateTime earlier = day ? day->addSecs(-DaySeconds) : QDateTime();
     if (!day || earlier.secsTo(cell.startCheckDate()) > FurthestBack) {
+        if (cell.search() == ThumbView::Search::None) // else the last day was not answered for
+            cell.setSearch(ThumbView::Search::Nothing);
         m_displayThumbForSource(source, then);
         return;
     }

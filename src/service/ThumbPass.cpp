@@ -76,7 +76,9 @@ void ThumbPass::loadNextThumb(const Then &then)
         m_state.currentLongSource = cell.longSourceName();
         ++m_state.thumbIndex;
         cell.setStartCheckDate(m_context.datePicker.dateValue());
+        cell.setWantedDate(m_context.dates.localDateFromShortDate(day));
         if (m_context.dates.shortDateFromLocalDate(cell.dateString()) != day) {
+            cell.setSearch(ThumbView::Search::None);
             m_data.getDataForSource(cell.shortSourceName(), day, then);
             return;
         }
@@ -150,6 +152,7 @@ void ThumbPass::emptyCell(ThumbView &cell) const
 void ThumbPass::clearThumbs() const
 {
     for (const auto &cell : m_context.cells.thumbViews()) {
+        cell->setSearch(ThumbView::Search::None);
         cell->showDate({});
         cell->showCaption({});
         cell->showThumbImage({}, {});

@@ -66,6 +66,7 @@ void ThumbView::showThumbImage(const QImage &image, const QString &url)
 void ThumbView::blankImage()
 {
     m_image = m_images.blank;
+    m_search = Search::None; // what is awaited now is its picture
     startSpinner();
 }
 
@@ -101,6 +102,22 @@ void ThumbView::startSpinner()
 void ThumbView::setThumbPath(const QString &path)
 {
     m_thumbPath = path;
+    Q_EMIT changed();
+}
+
+void ThumbView::setSearch(Search search)
+{
+    if (m_search == search)
+        return;
+    m_search = search;
+    Q_EMIT changed();
+}
+
+void ThumbView::setWantedDate(const QString &localDate)
+{
+    if (m_wantedDate == localDate)
+        return;
+    m_wantedDate = localDate;
     Q_EMIT changed();
 }
 

@@ -70,6 +70,14 @@ public:
     /// What the caption label says while the cell waits for its picture's data.
     static QString lookingText();
 
+    /// How the last search for this cell's picture stands.
+    enum class Search {
+        None, ///< There is none, or it found what it looked for.
+        Looking, ///< A request is waiting or under way.
+        Nothing, ///< Answered for every day that was tried: there is no picture.
+        Failed ///< The last request was not answered.
+    };
+
     /// Marks a picture that the user has deleted, in place of a thumb link.
     static QString deletedMark() { return QStringLiteral("DELETED"); }
 
@@ -170,6 +178,15 @@ public:
 
     void setStartCheckDate(const QDateTime &date) { m_startCheckDate = date; }
 
+    Search search() const { return m_search; }
+
+    void setSearch(Search search);
+
+    /// The day that the cell should show; dateString() is the one that it does show.
+    QString wantedDate() const { return m_wantedDate; }
+
+    void setWantedDate(const QString &localDate);
+
 Q_SIGNALS:
     /// Something that is displayed is another one.
     void changed();
@@ -181,6 +198,7 @@ private:
     QString m_shortSourceName;
     QString m_longSourceName;
     QString m_dateString;
+    QString m_wantedDate;
     QString m_captionString;
     QString m_captionField;
     QString m_infoString;
@@ -191,6 +209,7 @@ private:
     QImage m_image;
     ThumbButtons m_buttons;
     ThumbToolTips m_toolTips;
+    Search m_search = Search::None;
     bool m_usedAsDesktop = false;
     bool m_spinning = false;
     bool m_hidden = false;

@@ -93,8 +93,17 @@ void fill(WindowFixture &w)
     const QSize sizes[] = {{800, 600}, {1600, 900}, {600, 900}, {2000, 500}, {500, 500}, {90, 68}};
     for (int i = 0; i < w.cells.count(); ++i) {
         ThumbView &cell = w.cells.at(i);
-        cell.showDate(QStringLiteral("July 4, 2011"));
+        cell.setWantedDate(QStringLiteral("July 4, 2011"));
+        cell.showDate(i == 4 ? QStringLiteral("July 2, 2011") : cell.wantedDate());
         cell.showCaption(QString::fromUtf8(Captions[i % 5]));
+        const ThumbView::Search searches[] = {ThumbView::Search::Failed,
+                                              ThumbView::Search::Nothing};
+        if (i == 3 || i == 6) {
+            cell.setSearch(searches[i / 6]);
+            cell.setCaptionField(ThumbView::lookingText());
+            cell.showThumbImage(w.cells.images().blank, {});
+            continue;
+        }
         if (i % 5 == 2)
             cell.showThumbImage(w.cells.images().trashcan, ThumbView::deletedMark());
         else if (i == 7) {

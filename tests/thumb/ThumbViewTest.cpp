@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/Test.h"
 
+#include "thumb/CellState.h"
 #include "thumb/ThumbCells.h"
 
 namespace {
@@ -88,6 +89,38 @@ TEST_F(CellTest, lookUps)
     EXPECT_TRUE(cells.currentDesktopShowingInThumbs());
     cells.at(0).setHidden(true);
     EXPECT_EQ(cells.visibleThumbs(), 1);
+}
+
+TEST_F(CellTest, tellsHowItsSearchEnded)
+{
+    using enum ThumbView::Search;
+    const QString today = u"July 4, 2011"_s;
+    const QString before = u"July 3, 2011"_s;
+    const Table<ThumbView::Search, const char *, QImage, QString, CellState, const char *> cases{
+        {None, "", {}, today, CellState::Waiting, ""},
+        {Looking, "http://x", picture(7), today, CellState::Looking, ""},
+        {None, "http://x", picture(7), today, CellState::Shown, ""},
+        {None, "http://x", picture(7), before, CellState::Earlier, "Nothing on July 4, 2011"},
+        {Failed, "http://x", picture(7), before, CellState::EarlierUnasked,
+         "No answer for July 4, 2011"},
+        {Nothing, "", picture(1), before, CellState::Nothing,
+         "Nothing from this day to July 4, 2011"},
+        {Failed, "", {}, before, CellState::Failed, "The picture service did not answer"},
+        {None, "http://x", {}, today, CellState::Unreadable, "The picture could not be loaded"},
+        {Failed, "DELETED", picture(2), today, CellState::Deleted, ""},
+    };
+    ThumbView &cell = cells.at(0);
+    cell.setWantedDate(today);
+    for (const auto &[search, url, image, date, state, text] : cases) {
+        cell.setSearch(search);
+        cell.showDate(date);
+        const bool isBlank = image.width() == 1;
+        cell.showThumbImage(isBlank ? cells.images().blank : image, QString::fromLatin1(url));
+        cell.setCaptionField(ThumbView::lookingText());
+        EXPECT_EQ(cellState(cell), state) << text;
+        EXPECT_EQ(stateText(cell), QString::fromLatin1(text));
+        EXPECT_EQ(shownCaption(cell).isEmpty(), search == Failed || search == Nothing);
+    }
 }
 
 TEST_F(CellTest, summaries)
