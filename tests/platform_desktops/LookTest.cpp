@@ -16,7 +16,7 @@ TEST(LookTest, heedsEveryPlace)
     const char *kde = "org.kde.kdeglobals.KDE";
     const char *common = "org.freedesktop.appearance";
     const Table<LookReading, bool, std::optional<bool>> cases{
-        {{}, false, {}},
+        {LookReading{}, false, std::nullopt},
         {{true, u"default"_s, u"1"_s, {}}, false, false},
         {{false, u"prefer-dark"_s, {}, {}}, true, true},
         {{{}, {}, u"0"_s, {}}, true, {}},
