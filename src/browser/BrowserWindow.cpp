@@ -15,6 +15,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <algorithm>
 #include <cmath>
@@ -53,8 +54,8 @@ BrowserWindow::BrowserWindow(BrowserModel &model, const BrowserLook &look,
     setAttribute(Qt::WA_QuitOnClose, false);
     m_imageBrowser->setObjectName(QStringLiteral("imageBrowser"));
     m_imageBrowser->viewport()->setObjectName(QStringLiteral("browserScroll"));
+    m_imageBrowser->setModel(&model); // before the name, with which a screen reader comes to look
     m_imageBrowser->setAccessibleName(tr("Pictures"));
-    m_imageBrowser->setModel(&model);
     m_menu = new QMenu(m_imageBrowser);
     auto *rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
@@ -101,6 +102,8 @@ QWidget *BrowserWindow::makeHeader()
     m_searchField->installEventFilter(this);
     if (m_look.icon)
         m_searchField->addAction(m_look.icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    for (auto *button : m_searchField->findChildren<QToolButton *>())
+        button->setAccessibleName(m_searchField->accessibleName());
     connect(m_searchField, &QLineEdit::textChanged, this, &BrowserWindow::searchInBrowser);
     columns->addWidget(m_toolBar, 1);
     columns->addWidget(m_sourcePopup);
