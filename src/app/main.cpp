@@ -172,13 +172,13 @@ struct LinuxDesktop
     std::unique_ptr<DesktopPictures> pictures;
 };
 
-// The surroundings, with what only the window system knows. Wayland does not tell it.
+// The surroundings, with what only the window system knows.
 struct LinuxSession
 {
-    LinuxSession() : surroundings(QDBusConnection::systemBus(), QDBusConnection::sessionBus())
+    LinuxSession()
+        : surroundings(QDBusConnection::systemBus(), QDBusConnection::sessionBus())
+        , fullScreen(FullScreenWatch::start())
     {
-        if (QGuiApplication::platformName() == u"xcb")
-            fullScreen = FullScreenWatch::start();
         if (!fullScreen)
             return;
         fullScreen->onChanged = [this] { surroundings.setFullScreen(fullScreen->isFullScreen()); };

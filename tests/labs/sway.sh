@@ -11,8 +11,15 @@ output HEADLESS-1 resolution 800x600 position 0,0
 output HEADLESS-2 resolution 800x600 position 800,0
 exec env >$lab/sway.env
 X
-# sway refuses the superuser: a name space with one user keeps the files' owner.
-as_user=(); [ "$(id -u)" -ne 0 ] || as_user=(unshare -U --map-user=1000 --map-group=1000)
+# sway refuses the superuser: a name space with one user keeps the files' owner. Some containers have none.
+as_user=()
+if [ "$(id -u)" -eq 0 ]; then
+  as_user=(unshare -U --map-user=1000 --map-group=1000)
+  "${as_user[@]}" true 2>/dev/null || {
+    as_user=(setpriv --reuid=nobody --regid=nogroup --clear-groups)
+    chown -R nobody "$lab"
+  }
+fi
 background sway "${as_user[@]}" sway -c "$lab/sway.conf"
 waitfor 10 grep -q ^SWAYSOCK= "$lab/sway.env"
 export $(grep -E '^(WAYLAND_DISPLAY|SWAYSOCK)=' "$lab/sway.env") QT_QPA_PLATFORM=wayland LAB_SHOT=grim

@@ -2,8 +2,10 @@
 #include "platform_desktops/DesktopLab.h"
 
 #include "desktop/DesktopWorld.h"
+#include "platform/linux/desktops/FullScreenWatch.h"
 
 #include <QPainter>
+#include <QRasterWindow>
 
 namespace moravel::testing {
 
@@ -342,6 +344,27 @@ void DesktopLab::comesBackAfterRestart(const std::function<void()> &restart)
 void DesktopLab::restart()
 {
     ASSERT_EQ(run(QStringLiteral("bash"), {QStringLiteral("-c"), QStringLiteral("restart")}), 0);
+}
+
+void DesktopLab::knowsWhoFillsTheScreen()
+{
+    const auto watch = FullScreenWatch::start(0); // to which this process is another program
+    const auto own = FullScreenWatch::start();
+    ASSERT_TRUE(watch && own);
+    own->onChanged = [] { ADD_FAILURE() << "our own window"; };
+    QRasterWindow window;
+    for (const bool closes : {false, true}) {
+        window.showFullScreen();
+        // Before it knows of its own size, the toolkit takes back nothing.
+        MORAVEL_WAIT(watch->isFullScreen() && window.height() == 600);
+        const auto later = FullScreenWatch::start(1);
+        MORAVEL_WAIT(later->isFullScreen());
+        if (closes)
+            window.close();
+        else
+            window.showNormal();
+        MORAVEL_WAIT(!watch->isFullScreen());
+    }
 }
 
 } // namespace moravel::testing

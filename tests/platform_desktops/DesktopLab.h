@@ -88,6 +88,7 @@ protected:
     void followsThePluggedScreen();
     /// @param restart returns when the desktop is there again.
     void comesBackAfterRestart(const std::function<void()> &restart);
+    void knowsWhoFillsTheScreen();
     /// The lab's own function of that name.
     static void restart();
 

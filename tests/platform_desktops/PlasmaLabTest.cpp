@@ -131,6 +131,11 @@ TEST_F(PlasmaLab, followsThePluggedScreen)
     followsThePluggedScreen();
 }
 
+TEST_F(PlasmaLab, knowsWhoFillsTheScreen)
+{
+    knowsWhoFillsTheScreen();
+}
+
 TEST_F(PlasmaLab, comesBackAfterRestart)
 {
     comesBackAfterRestart(restart);

@@ -2,6 +2,7 @@
 #include "platform_desktops/DesktopLab.h"
 
 #include "platform/linux/desktops/FullScreenWatch.h"
+#include "platform/linux/desktops/Xcb.h"
 
 #include <unistd.h>
 

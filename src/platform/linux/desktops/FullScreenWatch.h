@@ -1,44 +1,41 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/linux/desktops/Xcb.h"
-
-#include <QSocketNotifier>
+#include <QCoreApplication>
 
 #include <functional>
 #include <memory>
 
 namespace moravel {
 
-/// Tells whether another program fills the screen: whether the active window of an X display is in full
-/// screen, and not one of ours. Looks only when the window manager says that something has changed.
-/// Main thread only.
+/// Tells whether another program fills the screen: whether the active window is in full screen, and not one
+/// of ours. Looks only when the window system says that something has changed. Main thread only.
 class FullScreenWatch
 {
 public:
-    /// Follows the display of the environment; null when there is none.
-    static std::unique_ptr<FullScreenWatch> start();
+    /// Follows the windows of this session: of an X display, of sway, or of KDE's compositor. Null where
+    /// the window system tells nobody.
+    /// @param self the process whose windows do not count.
+    static std::unique_ptr<FullScreenWatch> start(qint64 self = QCoreApplication::applicationPid());
+
+    virtual ~FullScreenWatch() = default;
+    Q_DISABLE_COPY_MOVE(FullScreenWatch)
 
     bool isFullScreen() const { return m_fullScreen; }
 
     std::function<void()> onChanged;
 
-private:
-    explicit FullScreenWatch(x11::Display display);
-    void readEvents();
-    bool takeEvents();
-    void follow(xcb_window_t window);
-    void look();
-    bool isActiveFullScreen() const;
+protected:
+    FullScreenWatch() = default;
 
-    x11::Display m_display;
-    xcb_atom_t m_activeWindow;
-    xcb_atom_t m_state;
-    xcb_atom_t m_stateFullScreen;
-    xcb_atom_t m_process;
-    xcb_window_t m_active = XCB_NONE;
+    void setFullScreen(bool fullScreen)
+    {
+        if (std::exchange(m_fullScreen, fullScreen) != fullScreen && onChanged)
+            onChanged();
+    }
+
+private:
     bool m_fullScreen = false;
-    std::unique_ptr<QSocketNotifier> m_readable;
 };
 
 } // namespace moravel

@@ -4,10 +4,7 @@
 #include "platform/linux/desktops/DesktopLog.h"
 #include "platform/linux/desktops/FileUrls.h"
 
-#include <QCoreApplication>
 #include <QDBusConnectionInterface>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 #include <QFile>
 #include <QScopeGuard>
@@ -21,13 +18,8 @@ namespace moravel {
 
 namespace {
 
-const QString Service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString Path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString Wallpaper = QStringLiteral("org.freedesktop.portal.Wallpaper");
-const QString RequestInterface = QStringLiteral("org.freedesktop.portal.Request");
 const QString AllScreens = QStringLiteral("all"); // key in the record
-
-constexpr int StartMs = 30'000; // the portal and what is behind it may have to be started
 
 // A regular file, opened without waiting for anything; -1 if it is none.
 int openPicture(const QString &path)
@@ -41,40 +33,37 @@ int openPicture(const QString &path)
     return file;
 }
 
-// Where the portal answers a request of this connection with this token.
-QString requestObject(const QDBusConnection &bus, const QString &token)
+QString reason(const PortalError &error)
 {
-    QString sender = bus.baseService().mid(1);
-    sender.replace(u'.', u'_');
-    return Path + QStringLiteral("/request/%1/%2").arg(sender, token);
-}
-
-QString refusal(uint code)
-{
-    return code == 1 ? QStringLiteral("The desktop was not allowed to take the picture.")
-                     : QStringLiteral("The desktop portal did not take the picture.");
+    switch (error.kind) {
+    case PortalError::Cancelled:
+        return QStringLiteral("The desktop was not allowed to take the picture.");
+    case PortalError::Superseded:
+        return QStringLiteral("Another picture came first.");
+    case PortalError::Failed:
+        return error.text;
+    case PortalError::Ended:
+        break;
+    }
+    return QStringLiteral("The desktop portal did not take the picture.");
 }
 
 } // namespace
 
 PortalPictures::PortalPictures(Files &files, const QString &recordPath, const QDBusConnection &bus)
-    : m_bus(bus)
-    , m_file(files, recordPath)
+    : m_file(files, recordPath)
     , m_record(m_file.read())
     , m_screens([] {}) // the desktop lays its picture out anew by itself
-{
-    // Of all requests: an answer may come before the object of its request is known.
-    m_bus.connect(Service, {}, RequestInterface, QStringLiteral("Response"), this,
-                  SLOT(response(uint, QVariantMap, QDBusMessage)));
-}
+    , m_portal(bus)
+{ }
 
 bool PortalPictures::isThere(const QDBusConnection &bus)
 {
     if (!bus.isConnected())
         return false;
     const QDBusConnectionInterface *daemon = bus.interface();
-    return daemon->isServiceRegistered(Service)
-        || daemon->activatableServiceNames().value().contains(Service);
+    return daemon->isServiceRegistered(PortalRequest::service())
+        || daemon->activatableServiceNames().value().contains(PortalRequest::service());
 }
 
 QString PortalPictures::desktopImageUrl(const QString &) const
@@ -83,8 +72,7 @@ QString PortalPictures::desktopImageUrl(const QString &) const
 }
 
 void PortalPictures::setDesktopImageUrl(const QString &url, const QString &screen,
-                                        DesktopScaling scaling,
-                                        std::function<void(tl::expected<void, DesktopError>)> done)
+                                        DesktopScaling scaling, Done done)
 {
     const QString path = pathOfUrl(url);
     const int file = openPicture(path);
@@ -94,68 +82,28 @@ void PortalPictures::setDesktopImageUrl(const QString &url, const QString &scree
             done(tl::unexpected(
                 DesktopError{screen, QStringLiteral("The picture cannot be read.")}));
         };
-        QMetaObject::invokeMethod(this, refuse, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&m_portal, refuse, Qt::QueuedConnection);
         return;
     }
     if (scaling != DesktopScaling::Fill && !std::exchange(m_toldScaling, true))
         qCInfo(desktopsLog) << "through the portal, the desktop lays pictures out as it likes";
-    giveUp();
-    const QString token = QStringLiteral("moravel%1").arg(++m_requests);
-    send({requestObject(m_bus, token), path, std::move(done)}, file);
-}
-
-void PortalPictures::send(const Request &request, int file)
-{
-    m_request = request;
-    QDBusMessage message = QDBusMessage::createMethodCall(Service, Path, Wallpaper,
-                                                          QStringLiteral("SetWallpaperFile"));
     const QString noWindow;
-    message << noWindow << QVariant::fromValue(QDBusUnixFileDescriptor(file))
-            << QVariantMap{{QStringLiteral("handle_token"), request.object.section(u'/', -1)},
-                           {QStringLiteral("show-preview"), false},
-                           {QStringLiteral("set-on"), QStringLiteral("background")}};
-    auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, StartMs), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, object = request.object] {
-        call->deleteLater();
-        if (!m_request || m_request->object != object)
-            return;
-        const QDBusPendingReply<QDBusObjectPath> reply = *call;
-        if (reply.isError())
-            return end(reply.error().message());
-        m_request->object = reply.value().path(); // very old portals choose it themselves
-    });
+    m_portal.ask(
+        Wallpaper, QStringLiteral("SetWallpaperFile"),
+        {noWindow, QVariant::fromValue(QDBusUnixFileDescriptor(file))},
+        {{QStringLiteral("show-preview"), false},
+         {QStringLiteral("set-on"), QStringLiteral("background")}},
+        [this, path, done](const PortalRequest::Answer &answer) { take(path, answer, done); });
 }
 
-void PortalPictures::response(uint code, const QVariantMap &, const QDBusMessage &message)
+void PortalPictures::take(const QString &path, const PortalRequest::Answer &answer,
+                          const Done &done)
 {
-    if (m_request && message.path() == m_request->object)
-        end(code == 0 ? QString() : refusal(code));
-}
-
-void PortalPictures::end(const QString &error)
-{
-    const Request request = *std::exchange(m_request, std::nullopt);
-    if (!error.isEmpty())
-        return request.done(tl::unexpected(DesktopError{{}, error}));
-    m_record.screens[AllScreens].path = request.path;
+    if (!answer)
+        return done(tl::unexpected(DesktopError{{}, reason(answer.error())}));
+    m_record.screens[AllScreens].path = path;
     m_file.write(m_record);
-    request.done({});
-}
-
-// The user may leave the desktop's question open for ever; the newest picture counts.
-void PortalPictures::giveUp()
-{
-    if (!m_request)
-        return;
-    m_bus.send(QDBusMessage::createMethodCall(Service, m_request->object, RequestInterface,
-                                              QStringLiteral("Close")));
-    QMetaObject::invokeMethod(
-        this,
-        [done = m_request->done] {
-            done(tl::unexpected(DesktopError{{}, QStringLiteral("Another picture came first.")}));
-        },
-        Qt::QueuedConnection);
-    m_request.reset();
+    done({});
 }
 
 } // namespace moravel

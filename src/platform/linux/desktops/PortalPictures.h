@@ -2,22 +2,19 @@
 #pragma once
 
 #include "platform/DesktopPictures.h"
+#include "platform/linux/PortalRequest.h"
 #include "platform/linux/desktops/DesktopRecord.h"
 #include "platform/linux/desktops/Screens.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QObject>
 
 namespace moravel {
 
 /// The desktop's portal, for programs in a sandbox and as the last resort: one picture for all screens, laid
 /// out as the desktop likes. The desktop may ask the user first. It cannot be asked what it shows, so a
 /// record says what this program has set last.
-class PortalPictures : public QObject, public DesktopPictures
+class PortalPictures : public DesktopPictures
 {
-    Q_OBJECT
-
 public:
     /// @param recordPath the file that keeps what was set.
     PortalPictures(Files &files, const QString &recordPath,
@@ -36,29 +33,16 @@ public:
     void setDesktopImageUrl(const QString &url, const QString &screen, DesktopScaling scaling,
                             std::function<void(tl::expected<void, DesktopError>)> done) override;
 
-private Q_SLOTS:
-    void response(uint code, const QVariantMap &results, const QDBusMessage &message);
-
 private:
-    /// A picture on its way; the portal answers through an object of that path.
-    struct Request
-    {
-        QString object;
-        QString path;
-        std::function<void(tl::expected<void, DesktopError>)> done;
-    };
+    using Done = std::function<void(tl::expected<void, DesktopError>)>;
 
-    void send(const Request &request, int file);
-    void end(const QString &error);
-    void giveUp();
+    void take(const QString &path, const PortalRequest::Answer &answer, const Done &done);
 
-    QDBusConnection m_bus;
     DesktopRecordFile m_file;
     DesktopRecord m_record;
     Screens m_screens;
-    std::optional<Request> m_request;
-    int m_requests = 0;
     bool m_toldScaling = false;
+    PortalRequest m_portal;
 };
 
 } // namespace moravel
