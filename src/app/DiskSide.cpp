@@ -178,6 +178,8 @@ void DiskSide::tidy()
 // must not look as if the user had taken it out of the Trash.
 void DiskSide::letGo(std::vector<SparePicture> pictures)
 {
+    const QSet<QString> chosen = staying({}); // perhaps only now, while those before went
+    std::erase_if(pictures, [&](const SparePicture &one) { return chosen.contains(one.name); });
     m_isTidying = !pictures.empty();
     if (pictures.empty())
         return;
