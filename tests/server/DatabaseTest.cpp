@@ -157,10 +157,12 @@ struct TwoServices : ::testing::Test
         QByteArray text =
             R"({"store": "#", "feedSources": [
                 {"shortName": "One", "longName": "1", "address": "@/f", "private": true},
-                {"shortName": "Two", "longName": "2", "address": "@/f?2", "private": true}]})";
+                {"shortName": "Two", "longName": "2", "address": "@/f?2", "private": true},
+                {"shortName": "Three", "longName": "3", "address": "@/f?3", "private": true}]})";
         text.replace('#', database.address().toUtf8()).replace('@', upstream.base());
         config = home.write(QStringLiteral("c.json"), text);
-        upstream.set({"/f?2", "<rss><channel/></rss>"});
+        for (const char *target : {"/f?2", "/f?3"})
+            upstream.set({target, "<rss><channel/></rss>"});
     }
 
     /// False when the source is not asked that often in time.
@@ -178,14 +180,14 @@ struct TwoServices : ::testing::Test
 TEST_F(TwoServices, AskOnceForManyAndSurviveEachOtherAndTheDatabase)
 {
     auto first = std::make_unique<Instance>(config);
-    const Instance second(config);
-    ASSERT_TRUE(first->port > 0 && second.port > 0);
+    auto second = std::make_unique<Instance>(config);
+    ASSERT_TRUE(first->port > 0 && second->port > 0);
     upstream.hold();
     constexpr int each = 100;
     std::vector<std::unique_ptr<Asker>> askers;
     for (int i = 0; i < each; ++i) {
         askers.push_back(std::make_unique<Asker>(*first, "One"));
-        askers.push_back(std::make_unique<Asker>(second, "One"));
+        askers.push_back(std::make_unique<Asker>(*second, "One"));
     }
     ASSERT_TRUE(isAsked("/f", 1));
     upstream.letGo();
@@ -197,11 +199,25 @@ TEST_F(TwoServices, AskOnceForManyAndSurviveEachOtherAndTheDatabase)
     upstream.hold();
     Asker lost(*first, "Two");
     ASSERT_TRUE(isAsked("/f?2", 1));
-    Asker kept(second, "Two");
+    Asker kept(*second, "Two");
     first->killNow();
     ASSERT_TRUE(isAsked("/f?2", 2));
     upstream.letGo();
     EXPECT_TRUE(kept.answer().contains("Error: 2 has nothing for that day."));
+
+    // One that waits for the other's answer dies: the other does not notice, and its answer stays.
+    upstream.hold();
+    Asker asking(*second, "Three");
+    ASSERT_TRUE(isAsked("/f?3", 1));
+    auto waiting = std::make_unique<Instance>(config);
+    const Asker gone(*waiting, "Three");
+    waiting->killNow();
+    upstream.letGo();
+    EXPECT_TRUE(asking.answer().contains("Error: 3 has nothing for that day."));
+    second->killNow();
+    const Instance later(config);
+    EXPECT_TRUE(Asker(later, "Three").answer().contains("Error: 3 has nothing for that day."));
+    EXPECT_EQ(upstream.count("/f?3"), 1);
 
     // What was stored is there for one that has never seen it, also while the database restarts.
     database.stop();
