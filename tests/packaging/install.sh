@@ -54,6 +54,10 @@ in_tree sh -c 'dpkg -i /packages/*.deb' >>"$packages/install.log"
 socket=etc/systemd/user/sockets.target.wants/moravel-service.socket
 [ -L "$tree/$socket" ] || { echo "no user's socket is on" >&2; exit 1; }
 [ ! -e "$tree/etc/systemd/system/multi-user.target.wants/moravel-service.service" ]
+documents=$tree/usr/share/doc/moravel
+for link in $(grep -ohP '\]\(\K(?!https?:)[^)#]+' "$documents"/*.md | sort -u); do
+  [ -e "$documents/$link" ] || { echo "the installed documents lack $link" >&2; exit 1; }
+done
 
 step "use, without systemd and network"
 install -m 755 "$here/session.sh" "$tree/home/tester/session.sh"
