@@ -58,4 +58,22 @@ TEST(LocalService, startsWhereNobodyAnswersAndEnds)
     }
 }
 
+TEST(LocalService, startsAgainWhatEndedByItself)
+{
+    const TempHome home;
+    FakeMainLoop loop;
+    const QString starts = home.path(u"starts"_s);
+    const QString path =
+        home.write(u"p"_s, "#!/bin/sh\necho >>" + starts.toUtf8() + "\necho listening on\n");
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
+    LocalService service({QUrl(u"http://127.0.0.1:1/potd"_s), path, {}}, loop);
+    service.ensure([] {});
+    for (int count = 1; count <= 3; ++count) {
+        MORAVEL_WAIT(TempHome::read(starts).size() == count && loop.pending() == 1);
+        loop.advance(59);
+        EXPECT_EQ(TempHome::read(starts).size(), count);
+        loop.advance(1);
+    }
+}
+
 } // namespace

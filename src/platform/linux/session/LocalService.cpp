@@ -17,6 +17,7 @@ namespace moravel {
 namespace {
 
 constexpr double Patience = 3; // seconds
+constexpr double RestartSeconds = 60; // so that one that always fails costs little
 constexpr int EndPatience = 1'000; // ms
 constexpr int HttpPort = 80;
 
@@ -36,12 +37,16 @@ LocalService::LocalService(Setup setup, MainLoop &loop) : m_setup(std::move(setu
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     connect(&m_process, &QProcess::readyReadStandardOutput, this, [this] {
-        if (m_process.readAllStandardOutput().contains("listening on"))
-            finish();
+        if (!m_process.readAllStandardOutput().contains("listening on"))
+            return;
+        m_wasUp = true;
+        finish();
     });
     connect(&m_process, &QProcess::finished, this, [this](int code) {
         qCInfo(lcSession) << "the picture service ended with" << code;
         finish();
+        if (std::exchange(m_wasUp, false))
+            m_again = m_loop.after(RestartSeconds, [this] { start(); });
     });
     connect(&m_process, &QProcess::errorOccurred, this, [this] {
         qCInfo(lcSession).noquote() << "the picture service:" << m_process.errorString();

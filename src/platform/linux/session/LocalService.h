@@ -17,7 +17,7 @@ namespace moravel {
 ///
 /// As a rule the session keeps it (a socket of systemd). Where nobody listens at its address, in a session
 /// without systemd for instance, this starts the one that is installed beside the program. That one ends with
-/// this object, and with the process. Main thread only.
+/// this object, and with the process; where it ended by itself it is started again after a minute. Main thread only.
 class LocalService : public QObject
 {
 public:
@@ -43,7 +43,9 @@ private:
     MainLoop &m_loop;
     std::unique_ptr<QTcpSocket> m_probe;
     QProcess m_process;
+    bool m_wasUp = false; ///< It answers, and did not end before that.
     DelayedCallHandle m_deadline;
+    DelayedCallHandle m_again;
     std::function<void()> m_done;
 };
 
