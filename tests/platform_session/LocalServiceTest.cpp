@@ -68,12 +68,9 @@ TEST(LocalService, startsAgainWhatEndedByItself)
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ExeOwner);
     LocalService service({QUrl(u"http://127.0.0.1:1/potd"_s), path, {}}, loop);
     service.ensure([] {});
-    for (int count = 1; count <= 3; ++count) {
-        MORAVEL_WAIT(TempHome::read(starts).size() == count && loop.pending() == 1);
-        loop.advance(59);
-        EXPECT_EQ(TempHome::read(starts).size(), count);
-        loop.advance(1);
-    }
+    const QDateTime start = loop.now();
+    MORAVEL_WAIT((loop.advance(1), TempHome::read(starts).size() == 3));
+    EXPECT_GE(start.secsTo(loop.now()), 120);
 }
 
 } // namespace
