@@ -13,6 +13,7 @@ packages=$(cd "$1" && pwd)
 if [ "${2:-}" != inside ]; then
   tree=$(mktemp -d "${TMPDIR:-/var/tmp}/moravel-tree.XXXXXX")
   trap 'rm -rf --one-file-system "$tree"' EXIT
+  chmod 755 "$tree" # the root of its users
   if [ -n "${MORAVEL_BARE_TREE:-}" ]; then
     cp -a "$MORAVEL_BARE_TREE/." "$tree"
   else
