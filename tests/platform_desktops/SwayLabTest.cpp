@@ -64,10 +64,7 @@ TEST_F(SwayLab, startsALostClientAgain)
     EXPECT_TRUE(seen(0, Middle, Qt::red));
 }
 
-TEST_F(SwayLab, knowsWhoFillsTheScreen)
-{
-    knowsWhoFillsTheScreen();
-}
+DESKTOP_TEST(SwayLab, knowsWhoFillsTheScreen)
 
 TEST_F(SwayLab, givesThePictureToANewOutput)
 {
