@@ -35,8 +35,8 @@ DESKTOP_TEST(XfceLab, noticesChangesFromOutside)
 
 TEST_F(XfceLab, takesManyChangesInARow)
 {
-    const QString red = picture(u"red.png"_s, {3000, 2000}, Qt::red);
-    const QString blue = picture(u"blue.png"_s, {3000, 2000}, Qt::blue);
+    red = picture(u"red.png"_s, {3000, 2000}, Qt::red);
+    blue = picture(u"blue.png"_s, {3000, 2000}, Qt::blue);
     for (int i = 0; i < 6; ++i) {
         const auto scaling = i % 2 ? DesktopScaling::Fill : DesktopScaling::Fit;
         ASSERT_EQ(set(i % 2 ? blue : red, first, scaling), QString());

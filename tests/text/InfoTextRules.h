@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "support/Test.h"
-
 #include "text/InfoText.h"
 
 #include <QRegularExpression>
+#include <QStringList>
 
 namespace moravel::testing {
 
@@ -17,16 +16,16 @@ public:
     QString faultOf(const QString &html)
     {
         if (html.toUtf8().size() > largestInfoText)
-            return u"too long"_s;
+            return QStringLiteral("too long");
         if (sanitisedInfoText(html) != html)
-            return u"changes again"_s;
+            return QStringLiteral("changes again");
         for (qsizetype at = 0; at < html.size();) {
             const QString piece = pieceAt(html, at);
             if (!isAllowed(piece))
-                return u"at %1: %2"_s.arg(at).arg(piece);
+                return QStringLiteral("at %1: %2").arg(at).arg(piece);
             at += piece.size();
         }
-        return m_open.isEmpty() ? QString() : u"open: "_s + m_open.join(u' ');
+        return m_open.isEmpty() ? QString() : QStringLiteral("open: ") + m_open.join(u' ');
     }
 
 private:
@@ -40,19 +39,21 @@ private:
     bool isAllowed(const QString &piece)
     {
         static const QStringList names =
-            u"b i u s sub sup small code p blockquote ul ol li"_s.split(u' ');
-        static const QStringList references{u"&amp;"_s, u"&lt;"_s, u"&gt;"_s, u"&quot;"_s};
+            QStringLiteral("b i u s sub sup small code p blockquote ul ol li").split(u' ');
+        static const QStringList references{QStringLiteral("&amp;"), QStringLiteral("&lt;"),
+                                            QStringLiteral("&gt;"), QStringLiteral("&quot;")};
         static const QRegularExpression link(
-            u"\\A<a href=\"(https?://[^\\s\"<>]+|#updatePODCaption)\">\\z"_s);
-        static const QRegularExpression newLine(u"\\A</?(br|p|blockquote|ul|ol|li)>\\z"_s);
+            QStringLiteral("\\A<a href=\"(https?://[^\\s\"<>]+|#updatePODCaption)\">\\z"));
+        static const QRegularExpression newLine(
+            QStringLiteral("\\A</?(br|p|blockquote|ul|ol|li)>\\z"));
         if (newLine.match(piece).hasMatch())
             m_word = 0;
         if (piece[0] == u'<') {
             if (piece.startsWith(u"</"))
-                return !m_open.isEmpty() && piece == u"</%1>"_s.arg(m_open.takeLast());
+                return !m_open.isEmpty() && piece == QStringLiteral("</%1>").arg(m_open.takeLast());
             const bool isLink = link.match(piece).hasMatch();
             if (isLink || names.contains(piece.sliced(1).chopped(1)))
-                m_open.append(isLink ? u"a"_s : piece.sliced(1).chopped(1));
+                m_open.append(isLink ? QStringLiteral("a") : piece.sliced(1).chopped(1));
             else
                 return piece == u"<br>";
             return true;
