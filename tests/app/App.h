@@ -9,13 +9,12 @@
 #include "support/FakePlatform.h"
 #include "support/FakeThumbnails.h"
 #include "support/HomeFiles.h"
-#include "support/TempHome.h"
+#include "support/Test.h"
 
 #include "app/MoravelAppDelegate.h"
 #include "platform/linux/PosixFiles.h"
 #include "platform/qt/QtDefaults.h"
 
-#include <QCoreApplication>
 #include <QUrlQuery>
 
 namespace moravel::testing {
@@ -52,6 +51,15 @@ public:
     QString refusal;
 };
 
+/// With every source switched on.
+inline Options allSources(bool hidden = false)
+{
+    Options options;
+    options.sources = QStringList{u"all"_s};
+    options.hidden = hidden;
+    return options;
+}
+
 /// The whole application on a real disk, a virtual clock and a played service.
 class App : private Tray, private Workspace, private Notifications
 {
@@ -59,25 +67,33 @@ public:
     /// With a desktop, or where no desktop picture can be set.
     explicit App(const TempHome &home, Options options = {}, bool withDesktop = false)
         : files(home)
-        , trash(home.path(QStringLiteral("Trash")))
-        , defaults(home.path(QStringLiteral("prefs.ini")))
-        , delegate(
-              {loop, http, defaults, files, alerts, images, random, &trash, nullptr, &surroundings,
-               &autostart},
-              withDesktop ? std::optional<DesktopPlatform>({&pictures, *this, *this, *this})
-                          : std::nullopt,
-              {urls,
-               clipboard,
-               {QStringLiteral("fb"), QStringLiteral("tw"), QStringLiteral("http://service/potd")},
-               QStringLiteral("help@makers"),
-               QStringLiteral("1.2")},
-              std::move(options), &thumbnails)
+        , trash(home.path(u"Trash"_s))
+        , defaults(home.path(u"prefs.ini"_s))
+        , delegate({loop, http, defaults, files, alerts, images, random, &trash, nullptr,
+                    &surroundings, &autostart},
+                   withDesktop ? std::optional<DesktopPlatform>({&pictures, *this, *this, *this})
+                               : std::nullopt,
+                   {urls,
+                    clipboard,
+                    {u"fb"_s, u"tw"_s, u"http://service/potd"_s},
+                    u"help@makers"_s,
+                    u"1.2"_s},
+                   std::move(options), &thumbnails)
     {
         http.answer = [this](const HttpRequest &request) { return serve(request); };
         delegate.applicationWillFinishLaunching();
         delegate.showWindow();
         loop.schedule(0, [this] { delegate.applicationDidFinishLaunching(); });
     }
+
+    /// A part of the main window, by the name of its field.
+    template <typename T = QWidget>
+    T *find(const char *name)
+    {
+        return delegate.window().findChild<T *>(QLatin1String(name));
+    }
+
+    ThumbView &cell(int index) { return delegate.cells().at(index); }
 
     void run(double seconds)
     {
@@ -93,15 +109,13 @@ public:
         const QString url = request.url.toString();
         if (down)
             return FakeHttp::Answer{{}, 500};
-        if (url.endsWith(QLatin1String("getSources.irev")))
+        if (url.endsWith("getSources.irev"_L1))
             return FakeHttp::Answer{"Astronomy\tB\nSea & Land\tA"};
         if (request.method != "POST")
             return FakeHttp::Answer{"IMG"};
-        const QString id =
-            QUrlQuery(QString::fromUtf8(request.body)).queryItemValue(QStringLiteral("source"));
+        const QString id = QUrlQuery(QString::fromUtf8(request.body)).queryItemValue(u"source"_s);
         return FakeHttp::Answer{
-            QStringLiteral("http://p\nCaption %1\nhttp://p/t%1.jpg\nhttp://p/%1.jpg\n\n\nInfo")
-                .arg(id)
+            u"http://p\nCaption %1\nhttp://p/t%1.jpg\nhttp://p/%1.jpg\n\n\nInfo"_s.arg(id)
                 .toUtf8()};
     }
 
@@ -131,7 +145,7 @@ private:
 
     void openDesktopSettings(std::function<void(const QString &)> done) override
     {
-        others.append(QStringLiteral("settings"));
+        others.append(u"settings"_s);
         done({});
     }
 

@@ -7,22 +7,14 @@
 
 #include "service/World.h"
 
-#include <QDir>
-
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
-using namespace testing;
-
-class Deleting : public ::testing::Test
+struct Deleting : ::testing::Test
 {
-protected:
-    void start(const QStringList &sources = {QStringLiteral("A"), QStringLiteral("B")})
+    void start(const QStringList &sources = {u"A"_s, u"B"_s})
     {
         world.file = [this](const QString &link) {
-            if (link.contains(QLatin1String("option=thumb")))
+            if (link.contains("option=thumb"_L1))
                 return thumbAnswer;
             return FakeHttp::Answer{"IMG of " + link.toUtf8()};
         };
@@ -36,10 +28,10 @@ protected:
         ports.loadNextPic = [this] { world.service->loadNextPic(); };
         ports.setDeletingDesktop = [this](bool is) { desktop += is ? u'1' : u'0'; };
         ports.rotateDesktop = [this] { desktop += u'r'; };
-        deletion = std::make_unique<Deletion>(
-            DeletionContext{world.cells, world.dates, world.files, world.records, world.updates,
-                            world.links, trash, world.loop},
-            ports);
+        deletion = std::make_unique<Deletion>(DeletionContext{world.cells, world.dates, world.files,
+                                                              world.records, world.updates,
+                                                              world.links, trash, world.loop},
+                                              ports);
         world.addSources(sources);
         world.startPass();
     }
@@ -61,7 +53,7 @@ protected:
     QStringList pictures() const
     {
         QStringList found;
-        for (const QString &folder : {QString(), QStringLiteral("thumbs/")}) {
+        for (const QString &folder : {QString(), u"thumbs/"_s}) {
             for (const QString &name : QDir(world.pictureFolder() + folder).entryList(QDir::Files))
                 found += folder + name + u' '
                     + QString::fromUtf8(TempHome::read(world.pictureFolder() + folder + name));
@@ -72,7 +64,7 @@ protected:
     QStringList fields(int line) const { return world.lines().value(line).split(u'\t'); }
 
     World world;
-    DiskTrash trash{world.home.path(QStringLiteral("Trash"))};
+    DiskTrash trash{world.home.path(u"Trash"_s)};
     std::unique_ptr<Deletion> deletion;
     FakeHttp::Answer thumbAnswer{" http://pic/thumb-A-7-4-2011.jpg\n"};
     QString desktop; // 0, 1: deletingDesktop; r: rotated
@@ -86,13 +78,13 @@ TEST_P(DeletingOn, AndRestoringLosesNothing)
 {
     std::unique_ptr<Volume> volume;
     if (qstrcmp(GetParam(), "volume") == 0) {
-        volume = std::make_unique<Volume>(world.home.path(QStringLiteral("Pictures")));
+        volume = std::make_unique<Volume>(world.home.path(u"Pictures"_s));
         if (!volume->isMounted())
             GTEST_SKIP() << "a second volume needs the right to mount: " << volume->error();
     }
     const bool isBlocked = qstrcmp(GetParam(), "blocked") == 0;
     if (isBlocked)
-        world.home.write(QStringLiteral("Trash"), "not a folder");
+        world.home.write(u"Trash"_s, "not a folder");
     start();
     const QStringList files = pictures();
     const QStringList records = world.lines();
@@ -104,7 +96,7 @@ TEST_P(DeletingOn, AndRestoringLosesNothing)
     deletePic(cell);
     EXPECT_EQ(pictures().size(), isBlocked ? 4 : 2);
     EXPECT_EQ(cell.thumbPath(), ThumbView::deletedMark());
-    EXPECT_EQ(cell.captionField(), QStringLiteral("Deleted.\n\nDouble-click to un-delete."));
+    EXPECT_EQ(cell.captionField(), u"Deleted.\n\nDouble-click to un-delete."_s);
     EXPECT_FALSE(cell.buttons().deleteBtn);
     EXPECT_EQ(fields(0)[2], ThumbView::deletedMark());
     EXPECT_EQ(fields(0).sliced(3), records[0].split(u'\t').sliced(3));
@@ -117,13 +109,12 @@ TEST_P(DeletingOn, AndRestoringLosesNothing)
     EXPECT_EQ(world.lines(), records);
     EXPECT_EQ(cell.captionString(), caption);
     EXPECT_EQ(cell.infoString(), info);
-    EXPECT_EQ(cell.thumbPath(), QStringLiteral("http://pic/thumb-A-7-4-2011.jpg"));
+    EXPECT_EQ(cell.thumbPath(), u"http://pic/thumb-A-7-4-2011.jpg"_s);
     EXPECT_TRUE(cell.buttons().deleteBtn);
     ASSERT_EQ(world.http.requests.size(), 1);
     EXPECT_EQ(world.http.requests[0].url.toString(),
-              QStringLiteral(
-                  "http://service/potd/defs/moravel.irev?option=thumb&source=A&date=7/4/2011"));
-    EXPECT_EQ(desktop, QStringLiteral("0"));
+              u"http://service/potd/defs/moravel.irev?option=thumb&source=A&date=7/4/2011"_s);
+    EXPECT_EQ(desktop, u"0"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(Trash, DeletingOn, ::testing::Values("home", "volume", "blocked"));
@@ -142,7 +133,7 @@ TEST_F(Deleting, WithoutAnswerThePictureComesBackStill)
         run();
         EXPECT_EQ(fields(0)[2], QString());
         EXPECT_EQ(fields(0).sliced(3), before.sliced(3));
-        EXPECT_TRUE(QFile::exists(world.pictureFolder() + QStringLiteral("A-7-4-2011.jpg")));
+        EXPECT_TRUE(QFile::exists(world.pictureFolder() + u"A-7-4-2011.jpg"_s));
     }
 }
 
@@ -151,34 +142,32 @@ TEST_F(Deleting, LeavesTheFilesThatAnotherRecordNeeds)
     // A and B share a picture, C and D one whose link has no extension.
     world.data = [](const QString &source, const QString &day) {
         const QByteArray own = "pic/" + source.toUtf8() + "-7-4-2011.jpg";
-        const QByteArray name =
-            QStringLiteral("AB").contains(source) ? "pic/shared.jpg" : "pic/bare";
+        const QByteArray name = u"AB"_s.contains(source) ? "pic/shared.jpg" : "pic/bare";
         return FakeHttp::Answer{World::goodAnswer(source, day).replace(own, name)};
     };
-    start(QStringLiteral("A B C D").split(u' '));
+    start(u"A B C D"_s.split(u' '));
     deletePic(world.cell(0));
     deletePic(world.cell(2));
     QStringList names;
     for (const QString &file : pictures())
         names += file.section(u' ', 0, 0);
     EXPECT_EQ(names.join(u' '),
-              QStringLiteral(
-                  "bare.jpg shared.jpg thumbs/thumb-B-7-4-2011.jpg thumbs/thumb-D-7-4-2011.jpg"));
+              u"bare.jpg shared.jpg thumbs/thumb-B-7-4-2011.jpg thumbs/thumb-D-7-4-2011.jpg"_s);
 }
 
 TEST_F(Deleting, ChangesTheDesktopThatShowsThePicture)
 {
     start();
     ThumbView &shown = world.cells.desktopThumb();
-    shown.showSource(QStringLiteral("Long B"), QStringLiteral("B"));
+    shown.showSource(u"Long B"_s, u"B"_s);
     shown.showDate(world.cell(1).dateString());
     shown.setThumbPath(world.cell(1).thumbPath());
-    shown.setPicPath(world.pictureFolder() + QStringLiteral("B-7-4-2011.jpg"));
+    shown.setPicPath(world.pictureFolder() + u"B-7-4-2011.jpg"_s);
 
     deletePic(world.cell(0));
-    EXPECT_EQ(desktop, QStringLiteral("0"));
+    EXPECT_EQ(desktop, u"0"_s);
     deletePic(shown);
-    EXPECT_EQ(desktop, QStringLiteral("001r"));
+    EXPECT_EQ(desktop, u"001r"_s);
     EXPECT_NE(shown.thumbPath(), ThumbView::deletedMark());
     EXPECT_EQ(world.cell(1).thumbPath(), ThumbView::deletedMark());
     EXPECT_TRUE(pictures().isEmpty());
@@ -186,19 +175,19 @@ TEST_F(Deleting, ChangesTheDesktopThatShowsThePicture)
     deletion->reloadDeletedPic(world.cell(1));
     run();
     deletePic(world.cell(1));
-    EXPECT_EQ(desktop, QStringLiteral("001r01r"));
+    EXPECT_EQ(desktop, u"001r01r"_s);
     deletePic(shown, DeleteSender::LargePicWindow);
-    EXPECT_EQ(desktop, QStringLiteral("001r01r01r"));
+    EXPECT_EQ(desktop, u"001r01r01r"_s);
     EXPECT_EQ(shown.thumbPath(), ThumbView::deletedMark());
     deletePic(world.cells.browserThumb());
-    EXPECT_EQ(desktop, QStringLiteral("001r01r01r0")) << "no cell of the window";
+    EXPECT_EQ(desktop, u"001r01r01r0"_s) << "no cell of the window";
 }
 
 TEST_F(Deleting, WhatHasNoRecordIsNotRestored)
 {
     start();
     deletePic(world.cell(0));
-    world.updates.deleteDataFor(QStringLiteral("A"), QStringLiteral("7/4/2011"));
+    world.updates.deleteDataFor(u"A"_s, u"7/4/2011"_s);
     world.http.requests.clear();
     deletion->reloadDeletedPic(world.cell(0));
     run();
@@ -207,4 +196,3 @@ TEST_F(Deleting, WhatHasNoRecordIsNotRestored)
 }
 
 } // namespace
-} // namespace moravel

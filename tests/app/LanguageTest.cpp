@@ -6,26 +6,21 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTranslator>
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
-
-using namespace testing;
 
 /// German, with marks around every text that a translation was found for.
 class Marked : public QTranslator
 {
 public:
-    Marked() { EXPECT_TRUE(m_german.load(QStringLiteral(":/moravel/translations/moravel_de"))); }
+    Marked() { EXPECT_TRUE(m_german.load(u":/moravel/translations/moravel_de"_s)); }
 
     bool isEmpty() const override { return false; }
 
@@ -39,13 +34,6 @@ public:
 private:
     QTranslator m_german;
 };
-
-Options allSources()
-{
-    Options options;
-    options.sources = QStringList{QStringLiteral("all")};
-    return options;
-}
 
 /// The texts that a user can see or hear of an object.
 QStringList textsOf(const QObject *object)
@@ -62,10 +50,10 @@ QStringList textsOf(const QObject *object)
 bool saysMore(QString text)
 {
     static const QRegularExpression known(
-        QStringLiteral("\u00AB[^\u00BB]*\u00BB|<[^>]*>|&amp;|\\((Ctrl|Alt|Del|F\\d)[^)]*\\)|"
-                       "Moravel|Astronomy|Sea &+ ?(amp;)?Land|Caption [AB]|(Monday, )?July "
-                       "\\d|Info|IMG|OK|Close"));
-    static const QRegularExpression word(QStringLiteral("[A-Za-z]{2}"));
+        u"\u00AB[^\u00BB]*\u00BB|<[^>]*>|&amp;|\\((Ctrl|Alt|Del|F\\d)[^)]*\\)|"
+        "Moravel|Astronomy|Sea &+ ?(amp;)?Land|Caption [AB]|(Monday, )?July "
+        "\\d|Info|IMG|OK|Close"_s);
+    static const QRegularExpression word(u"[A-Za-z]{2}"_s);
     return text.remove(known).contains(word);
 }
 
@@ -98,28 +86,39 @@ TEST(LanguageTest, everythingOnScreenIsTranslated)
     EXPECT_GT(seen, 200);
 }
 
-void expectDistinct(const QList<QAction *> &items)
+void expectNew(const QKeySequence &keys, QStringList &known)
 {
-    QList<QKeySequence> mnemonics;
+    EXPECT_FALSE(known.contains(keys.toString())) << qPrintable(keys.toString());
+    if (!keys.isEmpty())
+        known.append(keys.toString());
+}
+
+void expectDistinct(const QList<QAction *> &items, QStringList mnemonics, QStringList &shortcuts)
+{
     for (const QAction *item : items) {
-        const QKeySequence mnemonic = QKeySequence::mnemonic(item->text());
-        EXPECT_FALSE(!mnemonic.isEmpty() && mnemonics.contains(mnemonic))
-            << qPrintable(item->text());
-        mnemonics += mnemonic;
+        SCOPED_TRACE(qPrintable(item->text()));
+        EXPECT_NE(item->isSeparator(), !item->text().isEmpty());
+        expectNew(QKeySequence::mnemonic(item->text()), mnemonics);
+        expectNew(item->shortcut(), shortcuts);
         if (item->menu())
-            expectDistinct(item->menu()->actions());
+            expectDistinct(item->menu()->actions(), {}, shortcuts);
     }
 }
 
 TEST(LanguageTest, runsInTheDirectionOfItsLanguageWithAKeyForEachItem)
 {
-    for (const char *language : {"de", "ar"}) {
+    for (const char *language : {"en", "de", "ar"}) {
+        SCOPED_TRACE(language);
         const TempHome home;
         installTranslations(*qApp, {QLatin1String(language)});
         App app(home, allSources(), true);
         app.run(20);
         EXPECT_EQ(app.delegate.window().isRightToLeft(), QLatin1String(language) == u"ar");
-        expectDistinct(app.delegate.window().menuBar()->actions());
+        QStringList mnemonics, shortcuts;
+        for (const auto *button : app.delegate.window().findChildren<QPushButton *>())
+            expectNew(QKeySequence::mnemonic(button->text()), mnemonics);
+        expectDistinct(app.delegate.window().menuBar()->actions(), mnemonics, shortcuts);
+        EXPECT_GT(shortcuts.size(), 6);
         qDeleteAll(qApp->findChildren<QTranslator *>());
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     }
@@ -127,8 +126,8 @@ TEST(LanguageTest, runsInTheDirectionOfItsLanguageWithAKeyForEachItem)
 
 TEST(LanguageTest, englishEndsTheSearch)
 {
-    const QStringList speaks{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("pt_BR")};
-    const std::pair<const char *, const char *> table[] = {
+    const QStringList speaks{u"ar"_s, u"de"_s, u"pt_BR"_s};
+    const Table<const char *, const char *> table{
         {"de-AT de", "de"}, {"fr ar-Arab-EG", "ar"}, {"pt-BR", "pt_BR"},
         {"pt-PT", ""},      {"en-GB de", ""},        {"C", ""},
         {"", ""},
@@ -140,4 +139,3 @@ TEST(LanguageTest, englishEndsTheSearch)
 }
 
 } // namespace
-} // namespace moravel

@@ -2,13 +2,9 @@
 // Every item of the menu bar, found and chosen as a user does it.
 #include "App.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 // Outside of any namespace, as the macro wants it.
 static void initResources()
@@ -16,26 +12,15 @@ static void initResources()
     Q_INIT_RESOURCE(moravel);
 }
 
-namespace moravel {
 namespace {
 
-using namespace testing;
-
-class MenuBarTest : public ::testing::Test
+struct MenuBarTest : ::testing::Test
 {
-protected:
     MenuBarTest()
     {
         initResources();
         window.activateWindow();
         app.run(20);
-    }
-
-    static Options allSources()
-    {
-        Options options;
-        options.sources = QStringList{QStringLiteral("all")};
-        return options;
     }
 
     static QString plain(const QAction &item) { return item.text().remove(u'&'); }
@@ -75,48 +60,19 @@ protected:
     MainWindow &window = app.delegate.window();
 };
 
-void expectNew(const QKeySequence &keys, QStringList &known)
-{
-    EXPECT_FALSE(known.contains(keys.toString())) << qPrintable(keys.toString());
-    if (!keys.isEmpty())
-        known.append(keys.toString());
-}
-
-void expectDistinct(const QList<QAction *> &items, QStringList mnemonics, QStringList &shortcuts)
-{
-    for (const QAction *item : items) {
-        SCOPED_TRACE(qPrintable(item->text()));
-        EXPECT_NE(item->isSeparator(), !item->text().isEmpty());
-        expectNew(QKeySequence::mnemonic(item->text()), mnemonics);
-        expectNew(item->shortcut(), shortcuts);
-        if (item->menu())
-            expectDistinct(item->menu()->actions(), {}, shortcuts);
-    }
-}
-
-TEST_F(MenuBarTest, keysLeadToOneItemOnly)
-{
-    QStringList mnemonics;
-    for (const auto *button : window.findChildren<QPushButton *>())
-        expectNew(QKeySequence::mnemonic(button->text()), mnemonics);
-    QStringList shortcuts;
-    expectDistinct(window.menuBar()->actions(), mnemonics, shortcuts);
-    EXPECT_GT(shortcuts.size(), 6);
-}
-
 TEST_F(MenuBarTest, itemsDoWhatTheyName)
 {
-    const auto shown = [this] { return app.pictures.shown[QStringLiteral("A")]; };
-    const auto day = [this] { return app.delegate.cells().at(0).dateString(); };
+    const auto shown = [this] { return app.pictures.shown[u"A"_s]; };
+    const auto day = [this] { return app.cell(0).dateString(); };
     const auto stored = [this](const char *key) {
         return app.defaults.boolean(QLatin1String(key)).value_or(false);
     };
-    const QString base = QStringLiteral("http://service/potd");
+    const QString base = u"http://service/potd"_s;
     QString before;
     const std::pair<const char *, std::function<bool()>> table[] = {
         {"Help/Service Home Page", [&] { return app.urls.opened.takeLast() == base; }},
         {"Help/Release Notes",
-         [&] { return app.urls.opened.takeLast() == base + QStringLiteral("/release.html"); }},
+         [&] { return app.urls.opened.takeLast() == base + u"/release.html"_s; }},
         {"Help/About Moravel", [&] { return closes("aboutBox"); }},
         {"Help/News", [&] { return closes("sheet"); }},
         {"Help/News", [&] { return closes("sheet"); }}, // once more
@@ -127,18 +83,18 @@ TEST_F(MenuBarTest, itemsDoWhatTheyName)
         {"Desktop/All Screens", [&] { return stored("SetAllScreens"); }},
         {"Desktop/All Virtual Desktops", [&] { return stored("SetAllSpaces"); }},
         {"Desktop/System Desktop Settings…",
-         [&] { return app.others == QStringList{QStringLiteral("settings")}; }},
+         [&] { return app.others == QStringList{u"settings"_s}; }},
         {"File/Start at Login", [&] { return app.autostart.on; }},
         {"File/Stay Quiet When Needed",
-         [&] { return !app.defaults.boolean(QStringLiteral("Quiet")).value_or(true); }},
+         [&] { return !app.defaults.boolean(u"Quiet"_s).value_or(true); }},
         {"View/Disk Space…", [&] { return closes("diskSpaceSheet"); }},
         {"View/Show Side Bar", [&] { return stored("HideSideBar"); }},
         {"View/Previous Day", [&] { return day() == u"July 3, 2011"; }},
         {"View/Next Day", [&] { return day() == u"July 4, 2011"; }},
         {"View/Show Tool Tips", [&] { return stored("HideTooltips"); }},
         {"View/Full Screen", [&] { return window.isFullScreen(); }},
-        {"Sources/Astronomy", [&] { return app.delegate.cells().at(1).isHidden(); }},
-        {"Sources/Switch All On", [&] { return !app.delegate.cells().at(1).isHidden(); }},
+        {"Sources/Astronomy", [&] { return app.cell(1).isHidden(); }},
+        {"Sources/Switch All On", [&] { return !app.cell(1).isHidden(); }},
     };
     for (const auto &[path, isDone] : table)
         EXPECT_TRUE(choose(QString::fromUtf8(path)) && isDone()) << path;
@@ -146,19 +102,18 @@ TEST_F(MenuBarTest, itemsDoWhatTheyName)
 
 TEST_F(MenuBarTest, newsButtonAndBugReport)
 {
-    auto *button = window.findChild<QPushButton *>(QStringLiteral("newsButton"));
+    auto *button = window.findChild<QPushButton *>(u"newsButton"_s);
     ASSERT_TRUE(button && button->isVisible());
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(closes("sheet"));
     EXPECT_FALSE(button->isVisible());
-    EXPECT_TRUE(choose(QStringLiteral("Help/Report a Bug…")));
+    EXPECT_TRUE(choose(u"Help/Report a Bug…"_s));
     const QUrl mail(app.urls.opened.value(0));
-    EXPECT_TRUE(mail.toString().startsWith(QLatin1String("mailto:help@makers?subject=Moravel")));
-    const QString body = QUrlQuery(mail).queryItemValue(QStringLiteral("body"), QUrl::FullyDecoded);
-    EXPECT_TRUE(body.contains(QStringLiteral("\t1440 x 900 (main)\n\t800 x 600\n\n\nPictures:\n\n"
-                                             "Sea & Land - July 4, 2011\n")));
-    EXPECT_TRUE(body.contains(QStringLiteral("\nAstronomy - July 4, 2011\n")));
+    EXPECT_TRUE(mail.toString().startsWith("mailto:help@makers?subject=Moravel"_L1));
+    const QString body = QUrlQuery(mail).queryItemValue(u"body"_s, QUrl::FullyDecoded);
+    EXPECT_TRUE(body.contains(u"\t1440 x 900 (main)\n\t800 x 600\n\n\nPictures:\n\n"
+                              "Sea & Land - July 4, 2011\n"_s));
+    EXPECT_TRUE(body.contains(u"\nAstronomy - July 4, 2011\n"_s));
 }
 
 } // namespace
-} // namespace moravel

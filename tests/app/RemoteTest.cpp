@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The whole application, as App.h plays it, asked by other processes.
 #include "App.h"
-#include "support/Test.h"
 
 #include "app/CurrentPicture.h"
 
@@ -30,9 +29,7 @@ struct Remote : RemoteControl
 TEST(Remote, controlsTheApplication)
 {
     const TempHome home;
-    Options options;
-    options.sources = QStringList{u"all"_s};
-    App app(home, options, true);
+    App app(home, allSources(), true);
     Remote remote;
     app.delegate.attachRemoteControl(remote);
     EXPECT_EQ(remote.ask(app, u"large"_s), u"There is nothing to show yet."_s);

@@ -1,27 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The application as a guest of the session: started by it, quiet where it would disturb, and not too large.
 #include "App.h"
-#include "support/Test.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QDialog>
-#include <QGuiApplication>
 #include <QScreen>
 
 namespace {
 
-class SessionTest : public ::testing::Test
+struct SessionTest : ::testing::Test
 {
-protected:
-    static Options all(bool hidden = false)
-    {
-        Options options;
-        options.sources = QStringList{u"all"_s};
-        options.hidden = hidden;
-        return options;
-    }
-
     QStringList pictures() const
     {
         return QDir(home.path(u"Pictures/Moravel"_s)).entryList(QDir::Files);
@@ -34,11 +23,11 @@ protected:
 TEST_F(SessionTest, startsInTheTrayElseMinimised)
 {
     for (const bool tray : {true, false}) {
-        App app(home, all(true), true);
+        App app(home, allSources(true), true);
         app.hasTray = tray;
         app.run(10);
         EXPECT_FALSE(app.delegate.window().isVisible());
-        EXPECT_EQ(app.delegate.cells().at(0).captionField(), u"Caption A"_s);
+        EXPECT_EQ(app.cell(0).captionField(), u"Caption A"_s);
         app.run(10);
         EXPECT_EQ(app.delegate.window().isVisible(), !tray);
         EXPECT_EQ(app.delegate.window().isMinimized(), !tray);
@@ -49,48 +38,46 @@ TEST_F(SessionTest, windowsComeBackOnTheScreens)
 {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
 
-    const struct
-    {
-        QRect put, found;
-    } cases[] = {{{40, 50, 700, 650}, {40, 50, 700, 650}},
-                 {{40, 50, 20000, 650}, screen}, // of a screen that is not there any more
-                 {{9000, -4000, 700, 650}, screen}};
-
-    for (const auto &c : cases) {
+    bool sideBar = true; // it changes each time
+    for (const auto &[put, stays] :
+         Table<QRect, bool>{{{40, 50, 700, 650}, true},
+                            {{40, 50, 20000, 650}, false}, // of a screen that is not there any more
+                            {{9000, -4000, 700, 650}, false}}) {
         {
-            App app(home, all());
-            app.delegate.window().setGeometry(c.put);
-            app.delegate.window().findChild<QAction *>(u"sideBarMenuItem"_s)->trigger();
+            App app(home, allSources());
+            app.delegate.window().setGeometry(put);
+            app.find<QAction>("sideBarMenuItem")->trigger();
             app.run(2); // and then the machine stops
         }
-        App app(home, all());
+        App app(home, allSources());
         app.run(1);
         const MainWindow &window = app.delegate.window();
-        EXPECT_TRUE(c.found != c.put || window.geometry() == c.put);
+        EXPECT_TRUE(!stays || window.geometry() == put);
         EXPECT_TRUE(screen.contains(window.geometry()));
-        EXPECT_EQ(window.sideBar().isHidden(), &c != &cases[1]); // each time the other way
+        EXPECT_EQ(window.sideBar().isHidden(), sideBar);
+        sideBar = !sideBar;
     }
 }
 
 TEST_F(SessionTest, staysQuietAndMakesUp)
 {
-    App app(home, all(true), true);
+    App app(home, allSources(true), true);
     app.hasTray = true;
     app.surroundings.set({.metered = true});
     app.run(60);
-    EXPECT_EQ(app.delegate.cells().at(0).captionField(), QString()) << "nobody has asked";
+    EXPECT_EQ(app.cell(0).captionField(), QString()) << "nobody has asked";
     EXPECT_TRUE(pictures().isEmpty());
-    app.delegate.window().findChild<QAction *>(u"quietMenuItem"_s)->trigger();
+    app.find<QAction>("quietMenuItem")->trigger();
     app.run(30);
     EXPECT_EQ(pictures(), both) << "the user does not want it so";
 }
 
 TEST_F(SessionTest, fetchesWhatTheUserWantsAsDesktop)
 {
-    App app(home, all(), true);
+    App app(home, allSources(), true);
     app.surroundings.set({.lowBattery = true});
     app.run(30);
-    ThumbView &cell = app.delegate.cells().at(0);
+    ThumbView &cell = app.cell(0);
     EXPECT_EQ(cell.captionField(), u"Caption A"_s);
     EXPECT_TRUE(pictures().isEmpty());
     cell.commands().setAsDesktop(cell);
@@ -101,9 +88,9 @@ TEST_F(SessionTest, fetchesWhatTheUserWantsAsDesktop)
 
 TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
 {
-    App app(home, all(), true);
+    App app(home, allSources(), true);
     app.run(20);
-    ThumbView &chosen = app.delegate.cells().at(1);
+    ThumbView &chosen = app.cell(1);
     chosen.commands().setAsDesktop(chosen);
     app.run(1);
     const auto show = [&app](const QString &url) {
@@ -112,8 +99,8 @@ TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
     const QString before = show(u"file://localhost/other.jpg"_s);
     for (const QString &name : both) // sparse
         QFile::resize(home.path(u"Pictures/Moravel/"_s + name), 700LL << 20);
-    app.delegate.window().findChild<QAction *>(u"diskSpaceMenuItem"_s)->trigger();
-    auto *sheet = app.delegate.window().findChild<QDialog *>(u"diskSpaceSheet"_s);
+    app.find<QAction>("diskSpaceMenuItem")->trigger();
+    auto *sheet = app.find<QDialog>("diskSpaceSheet");
     ASSERT_TRUE(sheet);
     auto *limit = sheet->findChild<QComboBox *>();
     limit->setCurrentText(u"1 GB"_s);
@@ -124,7 +111,7 @@ TEST_F(SessionTest, keepsTheLimitAndBringsBackWhatIsWanted)
     show(before);
     app.run(3700); // the next pass
     EXPECT_EQ(pictures(), both.mid(1));
-    ThumbView &gone = app.delegate.cells().at(0);
+    ThumbView &gone = app.cell(0);
     EXPECT_EQ(gone.captionField(), u"Caption A"_s);
     gone.commands().setAsDesktop(gone);
     app.run(5);

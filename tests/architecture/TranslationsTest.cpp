@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Every text of the program is in every language, whole and with its place markers.
-#include <QDir>
-#include <QFile>
+#include "support/Test.h"
+
 #include <QMap>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QXmlStreamReader>
-
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -28,13 +25,13 @@ Texts read(const QString &path)
         if (xml.name() == u"name")
             key.first = xml.readElementText();
         else if (xml.name() == u"message")
-            counts = xml.attributes().hasAttribute(QLatin1String("numerus"));
+            counts = xml.attributes().hasAttribute("numerus"_L1);
         else if (xml.name() == u"source")
             texts[{key.first, key.second = xml.readElementText()}];
         else if (xml.name() == u"numerusform")
             texts[key] += xml.readElementText();
         else if (xml.name() == u"translation" && !counts
-                 && !xml.attributes().hasAttribute(QLatin1String("type")))
+                 && !xml.attributes().hasAttribute("type"_L1))
             texts[key] += xml.readElementText();
     }
     return texts;
@@ -43,11 +40,10 @@ Texts read(const QString &path)
 /// What a translation must have in common with its source: place markers, a line end, a mnemonic.
 QStringList marks(QString text)
 {
-    static const QRegularExpression mark(QStringLiteral("%n|%\\d|\n\\z|&(?=\\w)"),
+    static const QRegularExpression mark(u"%n|%\\d|\n\\z|&(?=\\w)"_s,
                                          QRegularExpression::UseUnicodePropertiesOption);
     QStringList found;
-    for (const auto &match :
-         mark.globalMatch(text.replace(QLatin1String("%Ln"), QLatin1String("%n"))))
+    for (const auto &match : mark.globalMatch(text.replace("%Ln"_L1, "%n"_L1)))
         found += match.captured();
     found.sort();
     return found;
@@ -57,24 +53,23 @@ TEST(Translations, areCompleteInEveryLanguage)
 {
     const QDir root(QStringLiteral(MORAVEL_SOURCE_DIR));
     const QTemporaryDir scratch;
-    const QString collected = scratch.filePath(QStringLiteral("all.ts"));
+    const QString collected = scratch.filePath(u"all.ts"_s);
     QProcess lupdate;
     lupdate.setWorkingDirectory(root.path());
     lupdate.start(QStringLiteral(MORAVEL_LUPDATE),
-                  {QStringLiteral("-silent"), QStringLiteral("-I"), QStringLiteral("src"),
-                   QStringLiteral("src"), QStringLiteral("-ts"), collected});
+                  {u"-silent"_s, u"-I"_s, u"src"_s, u"src"_s, u"-ts"_s, collected});
     ASSERT_TRUE(lupdate.waitForFinished());
     EXPECT_EQ(lupdate.readAllStandardError(), "") << "a tr() that would not find its text";
     const Texts wanted = read(collected);
     EXPECT_GT(wanted.size(), 200);
-    const QDir folder(root.filePath(QStringLiteral("translations")));
-    const QStringList files = folder.entryList({QStringLiteral("*.ts")});
+    const QDir folder(root.filePath(u"translations"_s));
+    const QStringList files = folder.entryList({u"*.ts"_s});
     EXPECT_EQ(files.size(), 2);
     for (const QString &file : files) {
         const Texts texts = read(folder.filePath(file));
         EXPECT_EQ(texts.keys(), wanted.keys()) << "run scripts/update-translations";
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-            SCOPED_TRACE(qPrintable(file + QLatin1String(": ") + text.key().second));
+            SCOPED_TRACE(qPrintable(file + ": "_L1 + text.key().second));
             ASSERT_FALSE(text->isEmpty() || text->contains(QString()));
             EXPECT_EQ(marks(text->last()), marks(text.key().second)); // of the greatest numbers
         }

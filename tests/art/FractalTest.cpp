@@ -2,10 +2,10 @@
 #include "server/sources/art/Fractal.h"
 
 #include "server/sources/art/FractalScene.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel::server::art {
+using namespace moravel::server;
+using namespace moravel::server::art;
 
 namespace {
 
@@ -19,19 +19,10 @@ Orbits orbitOf(const EscapeRule &rule, double re, double im)
     return orbits;
 }
 
-} // namespace
-
 TEST(EscapeTime, KnowsWhatBelongsToTheSets)
 {
-    struct Case
-    {
-        int power;
-        bool julia;
-        double cRe, cIm, re, im;
-        bool inside;
-    };
-
-    const Case cases[] = {
+    // power, whether it is a Julia set, its constant, the point, and whether that is inside
+    const Table<int, bool, double, double, double, double, bool> cases{
         {2, false, 0, 0, 0, 0, true},         {2, false, 0, 0, -1, 0, true},
         {2, false, 0, 0, -1.999, 0.1, false}, {2, false, 0, 0, 0.2, 0.3, true},
         {2, false, 0, 0, 0.5, 0, false},      {3, false, 0, 0, 0.3, 0, true},
@@ -40,14 +31,14 @@ TEST(EscapeTime, KnowsWhatBelongsToTheSets)
         {4, true, 0, 0, 1.01, 0, false},      {2, true, -1, 0, 5, 5, false},
         {4, true, 0, 0, 900, 900, false},     {2, false, 0, 0, 3000, 0, false},
     };
-    for (const Case &c : cases)
+    for (const auto &[power, julia, cRe, cIm, re, im, inside] : cases)
         for (const bool deep : {false, true}) {
-            if (deep && c.power != 2)
+            if (deep && power != 2)
                 continue;
             SCOPED_TRACE(::testing::Message()
-                         << c.power << ' ' << c.julia << ' ' << c.re << ' ' << c.im << ' ' << deep);
-            const Orbits o = orbitOf({c.power, c.julia, c.cRe, c.cIm, 200, deep}, c.re, c.im);
-            EXPECT_EQ(o.steps[0] < 0, c.inside);
+                         << power << ' ' << julia << ' ' << re << ' ' << im << ' ' << deep);
+            const Orbits o = orbitOf({power, julia, cRe, cIm, 200, deep}, re, im);
+            EXPECT_EQ(o.steps[0] < 0, inside);
             EXPECT_TRUE(std::isfinite(o.steps[0]) && std::isfinite(o.distance[0])
                         && std::isfinite(o.stripe[0]));
         }
@@ -131,10 +122,10 @@ TEST(Fractal, NamesTheConstantThatIsDrawn)
             EXPECT_TRUE(text.caption.endsWith(QString::number(std::abs(scene.rule.cIm), 'f', 4)
                                               + QLatin1Char('i')));
         }
-        EXPECT_TRUE(text.info.contains(QStringLiteral("%1 steps").arg(scene.rule.limit)));
+        EXPECT_TRUE(text.info.contains(u"%1 steps"_s.arg(scene.rule.limit)));
     }
     EXPECT_GT(sets[0], 5);
     EXPECT_GT(sets[1], 5);
 }
 
-} // namespace moravel::server::art
+} // namespace

@@ -2,33 +2,31 @@
 #include "server/sources/art/Landscape.h"
 
 #include "server/sources/art/LandscapeScene.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
 #include <set>
 
-namespace moravel::server::art {
+using namespace moravel::server;
+using namespace moravel::server::art;
+
+namespace {
 
 TEST(SunDay, AgreesWithAlmanacs)
 {
-    struct Case
-    {
-        QDate date;
-        double declination, dayLength, noonOffsetMinutes; // true noon after 12 h local mean time
-    };
-
     // Declination and equation of time as almanacs print them; the length of the day follows from
-    // the declination by the sunrise equation, worked by hand for 48° north.
-    const Case cases[] = {
+    // the declination by the sunrise equation, worked by hand for 48° north. The last column: minutes from 12 h
+    // local mean time to true noon.
+    const Table<QDate, double, double, double> cases{
         {{2026, 6, 21}, 23.44, 16 + 4 / 60.0, 1.9},   {{2026, 12, 21}, -23.44, 8 + 21 / 60.0, -1.9},
         {{2026, 3, 20}, -0.1, 12 + 8 / 60.0, 7.4},    {{2026, 9, 23}, -0.1, 12 + 8 / 60.0, -7.6},
         {{2026, 11, 3}, -15.1, 9 + 51 / 60.0, -16.4}, {{2026, 2, 11}, -14.0, 10 + 3 / 60.0, 14.2},
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(qPrintable(c.date.toString(Qt::ISODate)));
-        const SunDay day = sunDayOf(c.date);
-        EXPECT_NEAR(day.declination, c.declination, 0.25);
-        EXPECT_NEAR(day.dayLength * 60, c.dayLength * 60, 4);
-        EXPECT_NEAR(((day.sunrise + day.sunset) / 2 - 12) * 60, c.noonOffsetMinutes, 0.7);
+    for (const auto &[date, declination, dayLength, noonOffset] : cases) {
+        SCOPED_TRACE(qPrintable(date.toString(Qt::ISODate)));
+        const SunDay day = sunDayOf(date);
+        EXPECT_NEAR(day.declination, declination, 0.25);
+        EXPECT_NEAR(day.dayLength * 60, dayLength * 60, 4);
+        EXPECT_NEAR(((day.sunrise + day.sunset) / 2 - 12) * 60, noonOffset, 0.7);
         EXPECT_NEAR(day.noonAltitude, 42 + day.declination, 1e-9);
     }
 }
@@ -76,4 +74,4 @@ TEST(Landscape, TellsTheFiguresOfTheDay)
     EXPECT_TRUE(december.caption.endsWith(u"early winter")) << qPrintable(december.caption);
 }
 
-} // namespace moravel::server::art
+} // namespace

@@ -8,25 +8,22 @@
 
 namespace {
 
-TEST(Preferences, firstStart)
+TEST(Preferences, choicesAreStoredAtOnce)
 {
     FakeDefaults store;
     Preferences prefs(store);
-    prefs.readChangeFrequency();
-    prefs.readSizeSetting();
-    prefs.readDesktopOptions();
+    const auto readAll = [](Preferences &of) {
+        of.readChangeFrequency();
+        of.readSizeSetting();
+        of.readDesktopOptions();
+    };
+    readAll(prefs);
     EXPECT_EQ(prefs.rotateFrequency(), 0);
     EXPECT_EQ(prefs.desktopSizeSetting(), 1000);
     EXPECT_FALSE(prefs.doSetAllSpaces() || prefs.doSetAllScreens() || prefs.readHideTooltips());
     EXPECT_EQ(prefs.readZoomPrefs(), 0.0F);
     EXPECT_FALSE(prefs.readSourcePrefs());
-    EXPECT_TRUE(store.values.isEmpty());
-}
-
-TEST(Preferences, choicesAreStoredAtOnce)
-{
-    FakeDefaults store;
-    Preferences prefs(store);
+    EXPECT_TRUE(store.values.isEmpty()) << "a first start stores nothing";
     int rescheduled = 0;
     prefs.onFrequencyChanged = [&] { ++rescheduled; };
     prefs.setChangeFrequency(17); // no menu item has it, yet it counts
@@ -41,9 +38,7 @@ TEST(Preferences, choicesAreStoredAtOnce)
     EXPECT_EQ(rescheduled, 1);
 
     Preferences again(store);
-    again.readChangeFrequency();
-    again.readSizeSetting();
-    again.readDesktopOptions();
+    readAll(again);
     EXPECT_EQ(again.rotateFrequency(), 17);
     EXPECT_EQ(again.desktopSizeSetting(), 1002);
     EXPECT_TRUE(again.doSetAllSpaces());
@@ -52,8 +47,7 @@ TEST(Preferences, choicesAreStoredAtOnce)
     EXPECT_EQ(again.readSourcePrefs(), QStringList{QString()});
     store.setInteger(u"DesktopSize"_s, 0);
     store.setInteger(u"ChangeFrequency"_s, qint64(1) << 40);
-    again.readSizeSetting();
-    again.readChangeFrequency();
+    readAll(again);
     EXPECT_EQ(again.desktopSizeSetting(), 1000);
     EXPECT_GT(again.rotateFrequency(), 0);
 }

@@ -9,12 +9,7 @@ namespace {
 
 TEST(QuietRules, sayWhyNothingHappensUnasked)
 {
-    const struct
-    {
-        SurroundingsState state;
-        QuietVerdict whenWanted;
-        QuietVerdict whenNot;
-    } cases[] = {
+    const Table<SurroundingsState, QuietVerdict, QuietVerdict> cases{
         {{}, {}, {}},
         {{.powerSaver = true}, {QuietReason::PowerSaver, QuietReason::PowerSaver}, {}},
         {{.lowBattery = true}, {QuietReason::LowBattery, QuietReason::LowBattery}, {}},
@@ -31,12 +26,12 @@ TEST(QuietRules, sayWhyNothingHappensUnasked)
     };
 
     QSet<QString> texts;
-    for (const auto &c : cases) {
-        SCOPED_TRACE(qPrintable(waitingDownloadText(c.whenWanted.download)));
-        EXPECT_EQ(quietVerdict(c.state, true), c.whenWanted);
-        EXPECT_EQ(quietVerdict(c.state, false), c.whenNot);
-        texts.insert(waitingDownloadText(c.whenWanted.download));
-        EXPECT_EQ(waitingRotationText(c.whenWanted.rotation).isEmpty(), c.whenWanted.mayRotate());
+    for (const auto &[state, wanted, notWanted] : cases) {
+        SCOPED_TRACE(qPrintable(waitingDownloadText(wanted.download)));
+        EXPECT_EQ(quietVerdict(state, true), wanted);
+        EXPECT_EQ(quietVerdict(state, false), notWanted);
+        texts.insert(waitingDownloadText(wanted.download));
+        EXPECT_EQ(waitingRotationText(wanted.rotation).isEmpty(), wanted.mayRotate());
     }
     EXPECT_EQ(texts.size(), 7); // each reason its own, and none for none
 }

@@ -2,7 +2,6 @@
 #include "desktop/CaptionOverlay.h"
 
 #include "DesktopWorld.h"
-#include "support/Test.h"
 
 #include "desktop/CaptionDrawing.h"
 

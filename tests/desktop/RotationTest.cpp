@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
-#include "support/Test.h"
 
 namespace {
 
-class Rotating : public ::testing::Test
+struct Rotating : ::testing::Test
 {
-protected:
     void rotate(RotateSender sender = RotateSender::Button)
     {
         rotation.rotateDesktop(sender);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
-#include "support/Test.h"
 
 #include "desktop/DesktopSizing.h"
 
@@ -9,9 +8,8 @@ namespace {
 const QString A = u"A"_s;
 const QString B = u"B"_s;
 
-class Setter : public ::testing::Test
+struct Setter : ::testing::Test
 {
-protected:
     Setter()
     {
         world.show(old);

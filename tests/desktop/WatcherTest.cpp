@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopWorld.h"
-#include "support/Test.h"
 
 #include <QSignalSpy>
 
@@ -10,9 +9,8 @@ namespace {
 
 const QString A = u"A"_s;
 
-class Watching : public ::testing::Test
+struct Watching : ::testing::Test
 {
-protected:
     void start(const QString &path)
     {
         world.show(path);

@@ -2,7 +2,6 @@
 #include "mainwindow/Contrast.h"
 
 #include "WindowFixture.h"
-#include "support/Test.h"
 
 #include "mainwindow/FlippedClipView.h"
 #include "mainwindow/Spinner.h"

@@ -2,91 +2,58 @@
 #include "mainwindow/DesktopMenu.h"
 
 #include "support/FakePlatform.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
-class DesktopMenuTest : public ::testing::Test
+// The commands are chosen in the whole application, in MenuBarTest.
+TEST(DesktopMenu, checkMarksFollowThePreferencesAndTheWayBackItsHistory)
 {
-protected:
-    DesktopMenuPorts ports()
-    {
-        return {[this](int tag) { preferences.setDesktopSize(tag); },
-                [this] { done.append(QStringLiteral("now")); },
-                [this] { done.append(QStringLiteral("back")); },
-                [this] { done.append(QStringLiteral("keep")); },
-                [this] { done.append(QStringLiteral("settings")); },
-                [this] { return hasPrevious; }};
-    }
-
-    QAction *item(const QString &title, const QMenu *in = nullptr) const
-    {
-        for (QAction *action : (in ? in : &menu)->actions()) {
-            if (action->text().remove(u'&') == title)
+    FakeDefaults store;
+    Preferences preferences(store);
+    store.setInteger(u"ChangeFrequency"_s, 17);
+    preferences.readChangeFrequency();
+    QMenu menu;
+    bool hasPrevious = false;
+    const auto nothing = [] {};
+    const DesktopMenu desktop(menu, preferences,
+                              {[&](int tag) { preferences.setDesktopSize(tag); }, nothing, nothing,
+                               nothing, nothing, [&] { return hasPrevious; }});
+    const auto item = [&menu](const char *title) {
+        for (QAction *action : menu.findChildren<QAction *>()) {
+            if (action->text().remove(u'&') == QLatin1String(title))
                 return action;
-            if (QAction *below = action->menu() ? item(title, action->menu()) : nullptr)
-                return below;
         }
-        return nullptr;
-    }
-
-    QStringList checked(const QMenu &in) const
-    {
+        return static_cast<QAction *>(nullptr);
+    };
+    const auto checked = [&item](const char *submenu) {
         QStringList titles;
-        for (const QAction *action : in.actions()) {
+        for (const QAction *action : item(submenu)->menu()->actions()) {
             if (action->isChecked())
                 titles.append(action->text());
         }
         return titles;
-    }
-
-    testing::FakeDefaults store;
-    Preferences preferences{store};
-    QMenu menu;
-    QStringList done;
-    bool hasPrevious = false;
-};
-
-TEST_F(DesktopMenuTest, checkMarksFollowThePreferences)
-{
-    store.setInteger(QStringLiteral("ChangeFrequency"), 17);
-    preferences.readChangeFrequency();
-    const DesktopMenu desktop(menu, preferences, ports());
-    const QMenu &every = *item(QStringLiteral("Change Every"))->menu();
-    const QMenu &sizing = *item(QStringLiteral("Sizing"))->menu();
-    EXPECT_TRUE(checked(every).isEmpty()); // no item has 17 minutes
-    EXPECT_EQ(checked(sizing), QStringList{QStringLiteral("Auto")});
-    for (const auto &[title, minutes] :
-         {std::pair("30 Minutes", 30), {"24 Hours", 1440}, {"24 Hours", 1440}, {"Never", 0}}) {
+    };
+    EXPECT_TRUE(checked("Change Every").isEmpty()); // no item has 17 minutes
+    EXPECT_EQ(checked("Sizing"), QStringList{u"Auto"_s});
+    for (const auto &[title, minutes] : Table<const char *, int>{
+             {"30 Minutes", 30}, {"24 Hours", 1440}, {"24 Hours", 1440}, {"Never", 0}}) {
         SCOPED_TRACE(title);
-        item(QLatin1String(title))->trigger();
-        EXPECT_EQ(store.integer(QStringLiteral("ChangeFrequency")), minutes);
-        EXPECT_EQ(checked(every), QStringList{QLatin1String(title)});
+        item(title)->trigger();
+        EXPECT_EQ(store.integer(u"ChangeFrequency"_s), minutes);
+        EXPECT_EQ(checked("Change Every"), QStringList{QLatin1String(title)});
     }
-    item(QStringLiteral("Center"))->trigger();
+    item("Center")->trigger();
     EXPECT_EQ(preferences.desktopSizeSetting(), 1003);
-    EXPECT_EQ(checked(sizing), QStringList{QStringLiteral("Center")});
-    item(QStringLiteral("All Screens"))->trigger();
-    EXPECT_TRUE(preferences.doSetAllScreens());
-    EXPECT_TRUE(item(QStringLiteral("All Screens"))->isChecked());
-    EXPECT_FALSE(item(QStringLiteral("All Virtual Desktops"))->isChecked());
-}
-
-TEST_F(DesktopMenuTest, commands)
-{
-    const DesktopMenu desktop(menu, preferences, ports());
-    QAction *back = item(QStringLiteral("Back to Previous Desktop"));
-    Q_EMIT menu.aboutToShow();
-    EXPECT_FALSE(back->isEnabled());
-    hasPrevious = true;
-    Q_EMIT menu.aboutToShow();
-    for (const char *title : {"Change Desktop Now", "Back to Previous Desktop",
-                              "Keep This Desktop for 1 Hour", "System Desktop Settings…"})
-        item(QString::fromUtf8(title))->trigger();
-    EXPECT_EQ(done.join(u' '), QStringLiteral("now back keep settings"));
+    EXPECT_EQ(checked("Sizing"), QStringList{u"Center"_s});
+    item("All Screens")->trigger();
+    EXPECT_TRUE(preferences.doSetAllScreens() && item("All Screens")->isChecked());
+    EXPECT_FALSE(item("All Virtual Desktops")->isChecked());
+    for (const bool is : {false, true}) {
+        hasPrevious = is;
+        Q_EMIT menu.aboutToShow();
+        EXPECT_EQ(item("Back to Previous Desktop")->isEnabled(), is);
+    }
 }
 
 } // namespace
-} // namespace moravel

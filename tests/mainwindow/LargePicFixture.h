@@ -4,6 +4,7 @@
 #include "WindowFixture.h"
 #include "support/FakeImages.h"
 #include "support/HomeFiles.h"
+#include "support/Test.h"
 
 #include "mainwindow/LargePic.h"
 #include "mainwindow/LargePicWindow.h"
@@ -21,24 +22,23 @@ struct LargePicFixture
     {
         cells.createSpecialCells({});
         for (int i = 0; i < 3; ++i)
-            fill(cells.addThumbView(QStringLiteral("Source %1").arg(i),
-                                    QStringLiteral("s%1").arg(i), {}),
-                 QStringLiteral("http://x/%1.jpg").arg(i));
+            fill(cells.addThumbView(u"Source %1"_s.arg(i), u"s%1"_s.arg(i), {}),
+                 u"http://x/%1.jpg"_s.arg(i));
     }
 
     static void fill(ThumbView &cell, const QString &picture)
     {
-        cell.showDate(QStringLiteral("July 4, 2011"));
-        cell.showCaption(QStringLiteral("Caption"));
-        cell.setInfoString(QStringLiteral("About_it"));
+        cell.showDate(u"July 4, 2011"_s);
+        cell.showCaption(u"Caption"_s);
+        cell.setInfoString(u"About_it"_s);
         cell.setPicPath(picture);
-        cell.showThumbImage(WindowFixture::images().blank, QStringLiteral("http://x/t"));
+        cell.showThumbImage(WindowFixture::images().blank, u"http://x/t"_s);
     }
 
     /// Puts a picture file of @p bytes bytes where the link's picture belongs.
     QString keep(const QString &name, int bytes = 2048) const
     {
-        return home.write(QStringLiteral("Pictures/Moravel/") + name,
+        return home.write(u"Pictures/Moravel/"_s + name,
                           QByteArray("IMG").leftJustified(bytes, ' '));
     }
 
@@ -46,7 +46,7 @@ struct LargePicFixture
     {
         const auto note = [this](const char *what) {
             return [this, what](ThumbView &cell) {
-                calls += QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(cell.tag());
+                calls += u"%1 %2"_s.arg(QLatin1String(what)).arg(cell.tag());
             };
         };
         const auto notePath = [this](const char *what) {
@@ -55,11 +55,11 @@ struct LargePicFixture
         LargePicPorts ports;
         ports.currentDesktopPath = [this] { return desktopPath; };
         ports.largePicFilePathForThumb = [this](ThumbView &cell) {
-            calls += QStringLiteral("download %1").arg(cell.tag());
+            calls += u"download %1"_s.arg(cell.tag());
             return QString();
         };
         ports.isDownloading = [this](const QString &path) { return downloads.contains(path); };
-        ports.showDesktopPrefs = [this] { calls += QStringLiteral("prefs"); };
+        ports.showDesktopPrefs = [this] { calls += u"prefs"_s; };
         ports.setDesktop = notePath("desktop ");
         ports.revealFile = notePath("reveal ");
         ports.reloadDeletedPic = note("restore");

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/Test.h"
+
 #include "mainwindow/LargePicPlan.h"
 #include "mainwindow/LargePicStepping.h"
 #include "mainwindow/PicInfo.h"
@@ -7,67 +9,24 @@
 #include "mainwindow/StandardFrame.h"
 #include "thumb/OriginalPage.h"
 
-#include <gtest/gtest.h>
-
-namespace moravel {
 namespace {
 
 TEST(LargePicPlan, whoIsShown)
 {
-    const QString p = QStringLiteral("/p/a.jpg");
-
-    const struct
-    {
-        LargePicWish wish;
-        LargePicAnswer answer;
-    } cases[] = {
-        {{1000, false, 1, true, p},
-         LargePicAnswer::Show}, // the folder concerns the desktop cell only
-        {{1000, true, 1, false, p}, LargePicAnswer::Nothing},
-        {{1000, true, 2, false, p}, LargePicAnswer::Restore},
-        {{99, true, 2, true, p}, LargePicAnswer::Restore},
-        {{99, false, 2, true, {}}, LargePicAnswer::DesktopSettings},
-        {{99, false, 2, false, p}, LargePicAnswer::Show},
-        {{98, false, 2, false, {}}, LargePicAnswer::Nothing},
+    const QString p = u"/p/a.jpg"_s;
+    using enum LargePicAnswer;
+    const Table<LargePicWish, LargePicAnswer> cases{
+        {{1000, false, 1, true, p}, Show}, // the folder concerns the desktop cell only
+        {{1000, true, 1, false, p}, Nothing}, {{1000, true, 2, false, p}, Restore},
+        {{99, true, 2, true, p}, Restore},    {{99, false, 2, true, {}}, DesktopSettings},
+        {{99, false, 2, false, p}, Show},     {{98, false, 2, false, {}}, Nothing},
     };
-
-    for (const auto &c : cases)
-        EXPECT_EQ(answerTo(c.wish), c.answer) << c.wish.tag << c.wish.clickCount;
-}
-
-TEST(LargePicPlan, whatIsShown)
-{
-    const QString own = QStringLiteral("/p/a.jpg");
-    const QString other = QStringLiteral("/usr/b.jpg");
-    const QString name = QStringLiteral("b.jpg");
-    const QString title = QStringLiteral("Long - July 4, 2011");
-    const auto facts = [](const QString &path, const QString &large, bool downloading = false,
-                          bool isImage = true) {
-        return LargePicFacts{QStringLiteral("Long"),
-                             QStringLiteral("July 4, 2011"),
-                             QStringLiteral("Cap"),
-                             path,
-                             large,
-                             downloading,
-                             isImage,
-                             QStringLiteral("/p/")};
-    };
-    const QString cap = QStringLiteral("Cap");
-    // title, picture, caption, isOwn, cantShow, progress, info
-    EXPECT_EQ(planLargePic(facts(own, own)),
-              (LargePicPlan{title, own, cap, true, false, false, true}));
-    EXPECT_EQ(planLargePic(facts(own, {})), (LargePicPlan{title, {}, cap})) << "download began";
-    EXPECT_EQ(planLargePic(facts(own, own, true)),
-              (LargePicPlan{title, {}, cap, true, false, true, true}));
-    EXPECT_EQ(planLargePic(facts(own, own, false, false)),
-              (LargePicPlan{title, {}, cap, true, true, false, true}));
-    EXPECT_EQ(planLargePic(facts(other, other)), (LargePicPlan{name, other, name, false}));
-    LargePicFacts bare = facts(other, {});
-    bare.longSourceName.clear();
-    bare.dateString.clear();
-    EXPECT_EQ(planLargePic(bare).title, name);
+    for (const auto &[wish, answer] : cases)
+        EXPECT_EQ(answerTo(wish), answer) << wish.tag << wish.clickCount;
+    const QString other = u"/usr/b.jpg"_s;
+    EXPECT_EQ(planLargePic({{}, {}, u"Cap"_s, other, {}, false, true, u"/p/"_s}).title, u"b.jpg"_s);
     for (const char *path : {"/p/a.JPG", "http://x/a.JPG?w=1.5"})
-        EXPECT_EQ(pictureExtension(QString::fromLatin1(path)), QStringLiteral("JPG"));
+        EXPECT_EQ(pictureExtension(QString::fromLatin1(path)), u"JPG"_s);
 }
 
 TEST(LargePicStepping, table)
@@ -80,14 +39,8 @@ TEST(LargePicStepping, table)
     };
     constexpr int None = -1;
 
-    const struct
-    {
-        const char *cells;
-        bool desktop;
-        int position;
-        int previous;
-        int next;
-    } cases[] = {
+    // cells, the desktop's too, position: the previous and the next one
+    const Table<const char *, bool, int, int, int> cases{
         {"xxx", false, 1, 0, 2},      {"xxx", false, 0, 2, 1},  {"xxx", false, 2, 1, 0},
         {"xxx", true, 0, 99, 1},      {"xxx", true, 2, 1, 99},  {"xxx", true, 99, 2, 0},
         {"xxx", false, 99, 2, 0},     {"x--x", false, 0, 3, 3}, {"-x-x-", true, 3, 1, 99},
@@ -96,10 +49,10 @@ TEST(LargePicStepping, table)
         {"--", false, 0, None, None}, {"x", true, 99, 0, 0},
     };
 
-    for (const auto &c : cases) {
-        const StepCells cells{grid(c.cells), c.desktop, c.position};
-        EXPECT_EQ(previousPosition(cells).value_or(None), c.previous) << c.cells << c.position;
-        EXPECT_EQ(nextPosition(cells).value_or(None), c.next) << c.cells << c.position;
+    for (const auto &[shown, desktop, position, previous, next] : cases) {
+        const StepCells cells{grid(shown), desktop, position};
+        EXPECT_EQ(previousPosition(cells).value_or(None), previous) << shown << position;
+        EXPECT_EQ(nextPosition(cells).value_or(None), next) << shown << position;
     }
     // As many cells as the position of the desktop cell: nothing goes round for ever.
     const StepCells many{std::vector<bool>(120, true), false, 100};
@@ -110,28 +63,22 @@ TEST(LargePicStepping, table)
 
 TEST(PictureSizeText, table)
 {
-    const struct
-    {
-        qint64 bytes;
-        const char *text;
-    } sizes[] = {{-1, ""},
-                 {0, ""},
-                 {999, "999 B"},
-                 {1000, "1.0 KB"},
-                 {1536, "1.5 KB"},
-                 {1'023'999, "1000.0 KB"},
-                 {1'024'000, "1.0 MB"},
-                 {1'048'576, "1.0 MB"},
-                 {3'000'000'000, "2861.0 MB"}};
-
-    for (const auto &size : sizes)
-        EXPECT_EQ(prettyFileSize(size.bytes), QLatin1String(size.text)) << size.bytes;
-    const QString n = QStringLiteral("A %1 name");
-    const QString kb = QStringLiteral("1.0 KB");
-    EXPECT_EQ(pictureSizeText(n, {1234567, 3}, kb),
-              n + QLatin1String(" (1234567 x 3 pixels, 1.0 KB)"));
-    EXPECT_EQ(pictureSizeText(n, {4, 3}, {}), n + QLatin1String(" (4 x 3 pixels)"));
-    EXPECT_EQ(pictureSizeText(n, {}, kb), n + QLatin1String(" (1.0 KB)"));
+    const Table<qint64, const char *> sizes{
+        {-1, ""},
+        {0, ""},
+        {999, "999 B"},
+        {1000, "1.0 KB"},
+        {1'023'999, "1000.0 KB"},
+        {1'024'000, "1.0 MB"},
+        {3'000'000'000, "2861.0 MB"},
+    };
+    for (const auto &[bytes, text] : sizes)
+        EXPECT_EQ(prettyFileSize(bytes), QLatin1String(text)) << bytes;
+    const QString n = u"A %1 name"_s;
+    const QString kb = u"1.0 KB"_s;
+    EXPECT_EQ(pictureSizeText(n, {1234567, 3}, kb), n + " (1234567 x 3 pixels, 1.0 KB)"_L1);
+    EXPECT_EQ(pictureSizeText(n, {4, 3}, {}), n + " (4 x 3 pixels)"_L1);
+    EXPECT_EQ(pictureSizeText(n, {}, kb), n + " (1.0 KB)"_L1);
     EXPECT_EQ(pictureSizeText(n, {}, {}), n);
 }
 
@@ -150,32 +97,30 @@ TEST(StandardFrame, table)
 TEST(PicInfo, textsAndLinks)
 {
     EXPECT_TRUE(planInfo({}).lookUp);
-    EXPECT_TRUE(planInfo(QStringLiteral("NEW")).isOld);
-    EXPECT_TRUE(planInfo(QStringLiteral("NEW")).text.startsWith(QLatin1String("This picture was")));
-    EXPECT_EQ(planInfo(QStringLiteral("a_b")).text, QStringLiteral("a b"));
+    EXPECT_TRUE(planInfo(u"NEW"_s).isOld);
+    EXPECT_TRUE(planInfo(u"NEW"_s).text.startsWith("This picture was"_L1));
+    EXPECT_EQ(planInfo(u"a_b"_s).text, u"a b"_s);
 
-    const struct
-    {
-        const char *link;
-        LinkAction action;
-    } links[] = {{"http://x/#updatePODCaption", LinkAction::RefreshCaption},
-                 {"#updatePODCaption", LinkAction::RefreshCaption},
-                 {"https://x/y?z#w", LinkAction::OpenInBrowser},
-                 {"HTTP://X/", LinkAction::OpenInBrowser},
-                 {"http:", LinkAction::Nothing},
-                 {"httpx://y/", LinkAction::Nothing},
-                 {"file:///etc/passwd", LinkAction::Nothing},
-                 {"javascript:alert(1)", LinkAction::Nothing},
-                 {"mailto:a@b", LinkAction::Nothing},
-                 {"page.html", LinkAction::Nothing}};
-
-    for (const auto &link : links)
-        EXPECT_EQ(linkAction(QUrl(QString::fromLatin1(link.link))), link.action) << link.link;
-    const QString file = QStringLiteral("http://w/File:a");
-    const QString page = QStringLiteral("http://w/a");
-    EXPECT_EQ(originalPage(QStringLiteral("Wiki"), file), file);
-    EXPECT_EQ(originalPage(QStringLiteral("Wiki"), page), QString());
-    EXPECT_EQ(originalPage(QStringLiteral("Other"), page), page);
+    using enum LinkAction;
+    const Table<const char *, LinkAction> links{
+        {"http://x/#updatePODCaption", RefreshCaption},
+        {"#updatePODCaption", RefreshCaption},
+        {"https://x/y?z#w", OpenInBrowser},
+        {"HTTP://X/", OpenInBrowser},
+        {"http:", Nothing},
+        {"httpx://y/", Nothing},
+        {"file:///etc/passwd", Nothing},
+        {"javascript:alert(1)", Nothing},
+        {"mailto:a@b", Nothing},
+        {"page.html", Nothing},
+    };
+    for (const auto &[link, action] : links)
+        EXPECT_EQ(linkAction(QUrl(QString::fromLatin1(link))), action) << link;
+    const QString file = u"http://w/File:a"_s;
+    const QString page = u"http://w/a"_s;
+    EXPECT_EQ(originalPage(u"Wiki"_s, file), file);
+    EXPECT_EQ(originalPage(u"Wiki"_s, page), QString());
+    EXPECT_EQ(originalPage(u"Other"_s, page), page);
 }
 
 TEST(PictureZoom, fitsZoomsAndStaysAtTheEdges)
@@ -198,4 +143,3 @@ TEST(PictureZoom, fitsZoomsAndStaysAtTheEdges)
 }
 
 } // namespace
-} // namespace moravel

@@ -7,18 +7,13 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
-#include <QTest>
 #include <QTextCursor>
 #include <QToolButton>
 
-#include <gtest/gtest.h>
-
-namespace moravel::testing {
 namespace {
 
-class LargePicTest : public ::testing::Test
+struct LargePicTest : ::testing::Test
 {
-protected:
     void open(int index, int clicks = 1) { show(f.cells.at(index), clicks); }
 
     void show(ThumbView &cell, int clicks = 1)
@@ -55,12 +50,12 @@ protected:
 TEST_F(LargePicTest, showsSizeTextAndInfo)
 {
     images.pictureSize = {4000, 3000};
-    f.keep(QStringLiteral("0.jpg"));
+    f.keep(u"0.jpg"_s);
     open(0);
     EXPECT_TRUE(f.large.isVisible());
-    EXPECT_EQ(f.large.pic()->windowTitle(), QStringLiteral("Source 0 - July 4, 2011"));
-    EXPECT_EQ(caption(), QStringLiteral("Caption (4000 x 3000 pixels, 2.0 KB)"));
-    EXPECT_EQ(info(), QStringLiteral("About it"));
+    EXPECT_EQ(f.large.pic()->windowTitle(), u"Source 0 - July 4, 2011"_s);
+    EXPECT_EQ(caption(), u"Caption (4000 x 3000 pixels, 2.0 KB)"_s);
+    EXPECT_EQ(info(), u"About it"_s);
     EXPECT_TRUE(isEnabled("deleteButton"));
     EXPECT_FALSE(isEnabled("twitterButton")) << "nothing to share with";
     EXPECT_FALSE(f.find("progress")->isVisible());
@@ -68,17 +63,17 @@ TEST_F(LargePicTest, showsSizeTextAndInfo)
     f.large.showAgain(f.cells.at(0));
     settle();
     EXPECT_EQ(images.decodings, before) << "the same file is not decoded again";
-    EXPECT_EQ(caption(), QStringLiteral("Caption (4000 x 3000 pixels, 2.0 KB)"));
+    EXPECT_EQ(caption(), u"Caption (4000 x 3000 pixels, 2.0 KB)"_s);
 }
 
 TEST_F(LargePicTest, waitsForADownload)
 {
     open(1);
-    EXPECT_EQ(f.calls, QStringList{QStringLiteral("download 1001")});
-    EXPECT_EQ(caption(), QStringLiteral("Caption"));
+    EXPECT_EQ(f.calls, QStringList{u"download 1001"_s});
+    EXPECT_EQ(caption(), u"Caption"_s);
     EXPECT_EQ(info(), QString());
     const QString path = f.large.currentLargePicPath();
-    f.large.showProgress(66.67F, QStringLiteral("Downloading"));
+    f.large.showProgress(66.67F, u"Downloading"_s);
     EXPECT_TRUE(f.find("progress")->isVisible());
     EXPECT_EQ(f.find<QProgressBar>("progress")->value(), 666);
     f.large.showProgress(std::nullopt, {});
@@ -89,41 +84,41 @@ TEST_F(LargePicTest, waitsForADownload)
     open(1);
     EXPECT_EQ(f.calls.size(), 1) << "on its way already";
     EXPECT_TRUE(f.find("progress")->isVisible());
-    EXPECT_EQ(info(), QStringLiteral("About it"));
+    EXPECT_EQ(info(), u"About it"_s);
 
-    f.keep(QStringLiteral("1.jpg"));
-    f.large.displayPicFile(QStringLiteral("/another.jpg"));
-    EXPECT_EQ(caption(), QStringLiteral("Caption"));
+    f.keep(u"1.jpg"_s);
+    f.large.displayPicFile(u"/another.jpg"_s);
+    EXPECT_EQ(caption(), u"Caption"_s);
     f.large.displayPicFile(path);
     settle();
-    EXPECT_EQ(caption(), QStringLiteral("Caption (4 x 3 pixels)"));
+    EXPECT_EQ(caption(), u"Caption (4 x 3 pixels)"_s);
 }
 
 TEST_F(LargePicTest, filesThatAreNoPicturesOrOutside)
 {
-    f.cells.at(0).setPicPath(QStringLiteral("http://x/page.html"));
+    f.cells.at(0).setPicPath(u"http://x/page.html"_s);
     open(0);
     EXPECT_TRUE(f.find("cantShowField")->isVisible());
-    EXPECT_EQ(info(), QStringLiteral("About it"));
-    f.home.write(QStringLiteral("Pictures/Moravel/1.jpg"), "broken");
+    EXPECT_EQ(info(), u"About it"_s);
+    f.home.write(u"Pictures/Moravel/1.jpg"_s, "broken");
     open(1);
     EXPECT_TRUE(f.find("cantShowField")->isVisible());
-    EXPECT_EQ(caption(), QStringLiteral("Caption (6 B)"));
+    EXPECT_EQ(caption(), u"Caption (6 B)"_s);
 
     ThumbView &desktop = f.cells.desktopThumb();
-    LargePicFixture::fill(desktop, f.home.write(QStringLiteral("far.jpg"), "IMG"));
+    LargePicFixture::fill(desktop, f.home.write(u"far.jpg"_s, "IMG"));
     show(desktop, 2);
     EXPECT_FALSE(f.find("cantShowField")->isVisible());
-    EXPECT_EQ(f.large.pic()->windowTitle(), QStringLiteral("far.jpg"));
-    EXPECT_EQ(caption(), QStringLiteral("far.jpg (4 x 3 pixels, 3 B)"));
+    EXPECT_EQ(f.large.pic()->windowTitle(), u"far.jpg"_s);
+    EXPECT_EQ(caption(), u"far.jpg (4 x 3 pixels, 3 B)"_s);
     EXPECT_EQ(info(), QString());
     EXPECT_FALSE(f.find("parentButton")->isVisible());
     EXPECT_FALSE(isEnabled("deleteButton"));
-    f.keep(QStringLiteral("2.jpg"));
+    f.keep(u"2.jpg"_s);
     open(2);
     EXPECT_TRUE(f.find("parentButton")->isVisible());
     EXPECT_TRUE(isEnabled("deleteButton"));
-    EXPECT_TRUE(f.calls.filter(QStringLiteral("download 99")).isEmpty());
+    EXPECT_TRUE(f.calls.filter(u"download 99"_s).isEmpty());
 }
 
 TEST_F(LargePicTest, deletedFoldersAndMissingTexts)
@@ -132,17 +127,17 @@ TEST_F(LargePicTest, deletedFoldersAndMissingTexts)
     open(0, 1);
     EXPECT_EQ(f.calls, QStringList());
     open(0, 2);
-    f.desktopPath = QStringLiteral("/usr/share/pictures/");
+    f.desktopPath = u"/usr/share/pictures/"_s;
     show(f.cells.desktopThumb(), 2);
-    EXPECT_EQ(f.calls, (QStringList{QStringLiteral("restore 1000"), QStringLiteral("prefs")}));
+    EXPECT_EQ(f.calls, (QStringList{u"restore 1000"_s, u"prefs"_s}));
     EXPECT_FALSE(f.large.isVisible());
     f.calls.clear();
-    f.keep(QStringLiteral("1.jpg"));
+    f.keep(u"1.jpg"_s);
     f.cells.at(1).setInfoString({});
     open(1);
-    EXPECT_EQ(info(), QStringLiteral("Looking for more info..."));
-    EXPECT_EQ(f.calls, QStringList{QStringLiteral("caption 1001")});
-    f.cells.at(1).setInfoString(QStringLiteral("NEW"));
+    EXPECT_EQ(info(), u"Looking for more info..."_s);
+    EXPECT_EQ(f.calls, QStringList{u"caption 1001"_s});
+    f.cells.at(1).setInfoString(u"NEW"_s);
     open(1);
     EXPECT_FALSE(f.find("parentButton")->isVisible());
 }
@@ -150,7 +145,7 @@ TEST_F(LargePicTest, deletedFoldersAndMissingTexts)
 TEST_F(LargePicTest, keysStepDeleteAndClose)
 {
     for (int i = 0; i < 3; ++i)
-        f.keep(QStringLiteral("%1.jpg").arg(i));
+        f.keep(u"%1.jpg"_s.arg(i));
     open(0);
     f.large.pic()->picDetails().setFocus();
     key(Qt::Key_Right);
@@ -172,14 +167,14 @@ TEST_F(LargePicTest, keysStepDeleteAndClose)
     key(Qt::Key_Delete);
     EXPECT_FALSE(f.large.isVisible());
     EXPECT_EQ(f.calls,
-              (QStringList{QStringLiteral("desktop ") + f.large.currentLargePicPath(),
-                           QStringLiteral("email 1002"), QStringLiteral("delete 1002")}));
+              (QStringList{u"desktop "_s + f.large.currentLargePicPath(), u"email 1002"_s,
+                           u"delete 1002"_s}));
 }
 
 TEST_F(LargePicTest, mouseZoomsAndFitsTheWindow)
 {
     images.pictureSize = {600, 300};
-    f.keep(QStringLiteral("0.jpg"));
+    f.keep(u"0.jpg"_s);
     open(0);
     LargeImageView &view = f.large.pic()->largeImage();
     EXPECT_EQ(view.image().size(), QSize(600, 300));
@@ -208,18 +203,18 @@ TEST_F(LargePicTest, mouseZoomsAndFitsTheWindow)
 
 TEST_F(LargePicTest, originalPage)
 {
-    f.keep(QStringLiteral("0.jpg"));
-    f.cells.at(0).setParentPath(QStringLiteral("https://x/a b"));
+    f.keep(u"0.jpg"_s);
+    f.cells.at(0).setParentPath(u"https://x/a b"_s);
     open(0);
     auto *button = f.find<QToolButton>("parentButton");
     button->click();
-    EXPECT_EQ(f.calls.takeLast(), QStringLiteral("open https://x/a%20b"));
+    EXPECT_EQ(f.calls.takeLast(), u"open https://x/a%20b"_s);
     f.cells.at(0).setParentPath({});
     button->click();
     EXPECT_FALSE(button->isEnabled());
-    f.pageWanted(QStringLiteral(" http://y/ \n"));
+    f.pageWanted(u" http://y/ \n"_s);
     EXPECT_TRUE(button->isEnabled());
-    EXPECT_EQ(f.calls.takeLast(), QStringLiteral("open http://y/"));
+    EXPECT_EQ(f.calls.takeLast(), u"open http://y/"_s);
     for (const char *nothing : {"", "file:///etc/passwd"}) {
         open(0);
         const qint64 usual = button->icon().cacheKey();
@@ -232,13 +227,12 @@ TEST_F(LargePicTest, originalPage)
 
 TEST_F(LargePicTest, textLoadsNothingAndFollowsNoLink)
 {
-    f.keep(QStringLiteral("0.jpg"));
+    f.keep(u"0.jpg"_s);
     open(0);
     PicDetails &details = f.large.pic()->picDetails();
-    const QString secret = f.home.write(QStringLiteral("secret.html"), "secret");
-    details.showHtml(QStringLiteral("<a href='file://%1'>one</a> <a href='https://x/'>two</a>"
-                                    "<img src='file://%1'>")
-                         .arg(secret));
+    const QString secret = f.home.write(u"secret.html"_s, "secret");
+    details.showHtml(u"<a href='file://%1'>one</a> <a href='https://x/'>two</a>"
+                     "<img src='file://%1'>"_s.arg(secret));
     EXPECT_FALSE(
         details.loadResource(QTextDocument::HtmlResource, QUrl::fromLocalFile(secret)).isValid());
     const QString text = details.toPlainText();
@@ -248,9 +242,8 @@ TEST_F(LargePicTest, textLoadsNothingAndFollowsNoLink)
         QTest::mouseClick(details.viewport(), Qt::LeftButton, {},
                           details.cursorRect(cursor).center());
     }
-    EXPECT_EQ(f.calls, QStringList{QStringLiteral("open https://x/")});
+    EXPECT_EQ(f.calls, QStringList{u"open https://x/"_s});
     EXPECT_EQ(details.toPlainText(), text);
 }
 
 } // namespace
-} // namespace moravel::testing

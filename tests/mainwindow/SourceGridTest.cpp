@@ -5,15 +5,10 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-namespace moravel::testing {
 
 namespace {
 
-const QString SourcesKey = QStringLiteral("sources");
+const QString SourcesKey = u"sources"_s;
 
 struct SourceGridTest : ::testing::Test
 {
@@ -40,37 +35,27 @@ struct SourceGridTest : ::testing::Test
 
 QString name(int i)
 {
-    return QStringLiteral("Source %1").arg(i);
+    return u"Source %1"_s.arg(i);
 }
 
 } // namespace
 
 TEST_F(SourceGridTest, OrdersByCodeUnitAndTakesTheSavedSelection)
 {
-    w.defaults.values[SourcesKey] = QStringList{QStringLiteral("Gone"), QStringLiteral("Alpha")};
+    w.defaults.values[SourcesKey] = QStringList{u"Gone"_s, u"Alpha"_s};
     w.window->show();
-    w.sources->drawCheckboxesAndThumbs({{QStringLiteral("b"), QStringLiteral("Alpha")},
-                                        {QStringLiteral("a"), QStringLiteral("Beta & Son")},
-                                        {QStringLiteral("Z"), QStringLiteral("Gamma")}});
-    EXPECT_EQ(w.sources->allSources(),
-              QStringList({QStringLiteral("Gamma"), QStringLiteral("Beta & Son"),
-                           QStringLiteral("Alpha")}));
-    EXPECT_EQ(w.sources->selectedSources(), QStringList{QStringLiteral("Alpha")});
+    w.sources->drawCheckboxesAndThumbs(
+        {{u"b"_s, u"Alpha"_s}, {u"a"_s, u"Beta & Son"_s}, {u"Z"_s, u"Gamma"_s}});
+    EXPECT_EQ(w.sources->allSources(), QStringList({u"Gamma"_s, u"Beta & Son"_s, u"Alpha"_s}));
+    EXPECT_EQ(w.sources->selectedSources(), QStringList{u"Alpha"_s});
     EXPECT_EQ(w.cells.visibleThumbs(), 1);
     EXPECT_EQ(w.cells.at(1).tag(), 1001);
-    EXPECT_EQ(w.sources->sourceChecks().at(1)->text(), QStringLiteral("Beta && Son"));
+    EXPECT_EQ(w.sources->sourceChecks().at(1)->text(), u"Beta && Son"_s);
     EXPECT_FALSE(w.cell(0)); // a hidden cell costs no widget
     EXPECT_TRUE(w.cell(2)->isVisible());
     EXPECT_EQ(w.passes, QList<double>{0.5});
     EXPECT_TRUE(w.rotations.isEmpty());
     EXPECT_EQ(saved().size(), 2); // building saves nothing
-}
-
-TEST_F(SourceGridTest, StartsTheRotationWhenThereIsOne)
-{
-    w.preferences.setRotateFrequency(1);
-    show(1, {});
-    EXPECT_EQ(w.rotations, QList<double>{30});
 }
 
 TEST_F(SourceGridTest, SwitchesSourcesAndSavesTheSelection)
@@ -90,17 +75,19 @@ TEST_F(SourceGridTest, SwitchesSourcesAndSavesTheSelection)
     EXPECT_EQ(saved(), QStringList{QString()}); // nothing selected is one empty string
     EXPECT_EQ(w.sources->numberOfRows(), 0);
     EXPECT_EQ(w.window->grid().documentHeight(), w.window->mainView().height() - 30);
-    EXPECT_EQ(w.window->grid().panel()->objectName(), QStringLiteral("nothingSelectedPanel"));
+    EXPECT_EQ(w.window->grid().panel()->objectName(), u"nothingSelectedPanel"_s);
     EXPECT_EQ(w.cell(0)->pos(), QPoint(20, -313)); // the first cell waits above, hidden
     EXPECT_FALSE(w.cell(0)->isVisible());
     EXPECT_EQ(w.passes.size(), 1); // switching on fetches nothing by itself
 }
 
-TEST_F(SourceGridTest, ReadsTheListOfOneEmptyStringAsNothing)
+TEST_F(SourceGridTest, ReadsTheListOfOneEmptyStringAsNothingAndStartsARotation)
 {
+    w.preferences.setRotateFrequency(1);
     show(2, {QString()});
+    EXPECT_EQ(w.rotations, QList<double>{30});
     EXPECT_EQ(w.cells.visibleThumbs(), 0);
-    EXPECT_EQ(w.window->grid().panel()->objectName(), QStringLiteral("nothingSelectedPanel"));
+    EXPECT_EQ(w.window->grid().panel()->objectName(), u"nothingSelectedPanel"_s);
 }
 
 TEST_F(SourceGridTest, LaysOutAgainOnlyWhenTheNumberPerRowChanges)
@@ -137,10 +124,10 @@ TEST_F(SourceGridTest, MakesTheWindowTallEnough)
 TEST_F(SourceGridTest, WelcomesOnlyWhileNothingWasEverSaved)
 {
     w.window->show();
-    EXPECT_EQ(w.window->grid().panel()->objectName(), QStringLiteral("loadingPanel"));
+    EXPECT_EQ(w.window->grid().panel()->objectName(), u"loadingPanel"_s);
     w.build(9);
     QWidget *panel = w.window->grid().panel();
-    ASSERT_EQ(panel->objectName(), QStringLiteral("welcomePanel"));
+    ASSERT_EQ(panel->objectName(), u"welcomePanel"_s);
     const auto checks = panel->findChildren<QCheckBox *>();
     ASSERT_EQ(checks.size(), 9);
     auto *button = w.find<QPushButton>("showPicturesButton");
@@ -158,17 +145,16 @@ TEST_F(SourceGridTest, WelcomesOnlyWhileNothingWasEverSaved)
     EXPECT_FALSE(w.window->grid().panel());
     EXPECT_TRUE(w.cell(2)->isVisible());
     w.sources->switchAll(false);
-    EXPECT_EQ(w.window->grid().panel()->objectName(), QStringLiteral("nothingSelectedPanel"));
+    EXPECT_EQ(w.window->grid().panel()->objectName(), u"nothingSelectedPanel"_s);
 }
 
 TEST_F(SourceGridTest, SwitchesOnWhatTheCommandLineNames)
 {
     w.window->show();
     w.build(3);
-    EXPECT_EQ(w.sources->switchOn({name(2), QStringLiteral("Nobody")}),
-              QStringList{QStringLiteral("Nobody")});
+    EXPECT_EQ(w.sources->switchOn({name(2), u"Nobody"_s}), QStringList{u"Nobody"_s});
     EXPECT_EQ(saved(), QStringList{name(2)});
-    EXPECT_TRUE(w.sources->switchOn({QStringLiteral("all")}).isEmpty());
+    EXPECT_TRUE(w.sources->switchOn({u"all"_s}).isEmpty());
     EXPECT_EQ(saved(), w.sources->allSources());
 }
 
@@ -177,11 +163,11 @@ TEST_F(SourceGridTest, SaysThatTheServiceDoesNotAnswerAndTriesAgain)
     w.window->show();
     w.build(0);
     QWidget *panel = w.window->grid().panel();
-    ASSERT_EQ(panel->objectName(), QStringLiteral("noServicePanel"));
+    ASSERT_EQ(panel->objectName(), u"noServicePanel"_s);
     QTest::mouseClick(panel->findChild<QPushButton *>(), Qt::LeftButton);
     EXPECT_EQ(w.retries, 1);
     w.build(2);
-    EXPECT_EQ(w.window->grid().panel()->objectName(), QStringLiteral("welcomePanel"));
+    EXPECT_EQ(w.window->grid().panel()->objectName(), u"welcomePanel"_s);
     w.build(3); // built once
     EXPECT_EQ(w.cells.count(), 2);
 }
@@ -202,5 +188,3 @@ TEST_F(SourceGridTest, MenuStaysOpenWhileSourcesAreSwitched)
     EXPECT_EQ(saved(), QStringList{name(0)});
     menu.close();
 }
-
-} // namespace moravel::testing

@@ -3,6 +3,7 @@
 
 #include "support/FakeMainLoop.h"
 #include "support/FakePlatform.h"
+#include "support/Test.h"
 
 #include "base/DatePicker.h"
 #include "base/Preferences.h"
@@ -54,8 +55,7 @@ struct WindowFixture
     {
         QMap<QString, QString> names;
         for (int i = 0; i < count; ++i)
-            names.insert(QStringLiteral("s%1").arg(i, 2, 10, QChar(u'0')),
-                         QStringLiteral("Source %1").arg(i));
+            names.insert(u"s%1"_s.arg(i, 2, 10, QChar(u'0')), u"Source %1"_s.arg(i));
         sources->drawCheckboxesAndThumbs(names);
     }
 

@@ -1,33 +1,16 @@
 // SPDX-License-Identifier: MIT
 // What is handed over to other programs: addresses and log lines.
 #include "support/Test.h"
+#include "support/UrlRecorder.h"
 
 #include "platform/qt/MessageLog.h"
 #include "platform/qt/QtUrlOpener.h"
 
-#include <QDesktopServices>
-#include <QObject>
-#include <QUrl>
-
 namespace {
-
-class Recorder : public QObject
-{
-    Q_OBJECT
-
-public:
-    QStringList opened;
-
-public Q_SLOTS:
-
-    void open(const QUrl &url) { opened.append(QString::fromLatin1(url.toEncoded())); }
-};
 
 TEST(QtUrlOpener, opensAddressesOfOtherProgramsUnchanged)
 {
-    Recorder recorder;
-    for (const char *scheme : {"http", "mailto", "file", "javascript"})
-        QDesktopServices::setUrlHandler(QLatin1String(scheme), &recorder, "open");
+    const UrlRecorder recorder({u"http"_s, u"mailto"_s, u"file"_s, u"javascript"_s});
     const QString mail = u"mailto:a@b?subject=%22%27%0A%26%25&body=%2B%20%F0%9F%8C%85"_s;
     for (const QString &url :
          {mail, u"HTTP://h/p?a=%3D%23;b"_s, u"file:///etc/passwd"_s, u"javascript:x"_s, QString(),
@@ -35,8 +18,6 @@ TEST(QtUrlOpener, opensAddressesOfOtherProgramsUnchanged)
         QtUrlOpener().open(url);
     EXPECT_EQ(recorder.opened,
               (QStringList{mail, u"http://h/p?a=%3D%23;b"_s, u"http://h/%C3%BC%205%25"_s}));
-    for (const char *scheme : {"http", "mailto", "file", "javascript"})
-        QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
 }
 
 TEST(MessageLog, oneMessageIsOneLine)
@@ -48,5 +29,3 @@ TEST(MessageLog, oneMessageIsOneLine)
 }
 
 } // namespace
-
-#include "HandOverTest.moc"

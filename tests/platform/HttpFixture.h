@@ -2,11 +2,9 @@
 #pragma once
 
 #include "support/LoopbackServer.h"
-#include "support/Wait.h"
+#include "support/Test.h"
 
 #include "platform/qt/QtHttp.h"
-
-#include <optional>
 
 namespace moravel::testing {
 
@@ -28,16 +26,15 @@ inline HttpRequest post(const QUrl &url, const QByteArray &body)
 }
 
 /// A client and the server it talks to.
-class HttpFixture : public ::testing::Test
+struct HttpFixture : ::testing::Test
 {
-protected:
     FetchResult fetch(const HttpRequest &request)
     {
         std::optional<FetchResult> result;
         http.fetch(request, [&](FetchResult answer) { result = std::move(answer); });
         EXPECT_FALSE(result) << "called back from within fetch()";
         EXPECT_TRUE(waitFor([&] { return result.has_value(); }));
-        return result.value_or(tl::unexpected(HttpError{-1, QStringLiteral("no answer")}));
+        return result.value_or(tl::unexpected(HttpError{-1, u"no answer"_s}));
     }
 
     /// Fetches the path of that name, which answers so.

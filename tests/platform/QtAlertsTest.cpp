@@ -30,7 +30,6 @@ TEST(QtAlerts, ShowsOneOkAndNoMarkup)
     alerts.alert(markup, markup);
     const auto boxes = openBoxes();
     ASSERT_EQ(boxes.size(), 1);
-    EXPECT_EQ(boxes.first()->buttons().size(), 1);
     EXPECT_EQ(boxes.first()->standardButtons(), QMessageBox::Ok);
     int texts = 0;
     for (const QLabel *label : boxes.first()->findChildren<QLabel *>()) {
@@ -45,15 +44,14 @@ TEST(QtAlerts, BlocksItsWindowOnlyOnceThereIsOne)
     QtAlerts alerts;
     QWidget window;
     alerts.setParentWindow(&window);
-    alerts.alert(Title, u"before"_s);
-    ASSERT_EQ(openBoxes().size(), 1);
-    EXPECT_EQ(openBoxes().first()->windowModality(), Qt::NonModal);
-    delete openBoxes().first();
-    window.show();
-    alerts.alert(Title, u"after"_s);
-    ASSERT_EQ(openBoxes().size(), 1);
-    EXPECT_EQ(openBoxes().first()->windowModality(), Qt::WindowModal);
-    EXPECT_EQ(openBoxes().first()->parentWidget(), &window);
+    for (const bool isShown : {false, true}) {
+        window.setVisible(isShown);
+        alerts.alert(Title, QString());
+        ASSERT_EQ(openBoxes().size(), 1);
+        EXPECT_EQ(openBoxes()[0]->windowModality(), isShown ? Qt::WindowModal : Qt::NonModal);
+        EXPECT_EQ(openBoxes()[0]->parentWidget() == &window, isShown);
+        delete openBoxes()[0];
+    }
 }
 
 TEST(QtAlerts, DoesNotStackEqualOnes)

@@ -8,9 +8,8 @@
 
 namespace {
 
-class QtDefaultsTest : public ::testing::Test
+struct QtDefaultsTest : ::testing::Test
 {
-protected:
     /// Stores by @p store, and opens a copy of the file, which nothing in this process knows yet.
     template <typename Store>
     std::unique_ptr<QtDefaults> reopened(Store store)

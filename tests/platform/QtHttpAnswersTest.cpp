@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the client makes of sound, broken and hostile answers.
 #include "HttpFixture.h"
-#include "support/Test.h"
 
 #include <random>
 

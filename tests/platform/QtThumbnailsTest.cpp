@@ -6,7 +6,6 @@
 #include "platform/qt/QtImages.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QImageReader>
 
 namespace {
@@ -17,9 +16,8 @@ QString md5Name(const QByteArray &uri)
         + u".png"_s;
 }
 
-class QtThumbnailsTest : public ::testing::Test
+struct QtThumbnailsTest : ::testing::Test
 {
-protected:
     QString picture(const QString &name, QSize size, QColor colour = Qt::red)
     {
         QImage image(size, QImage::Format_RGB32);

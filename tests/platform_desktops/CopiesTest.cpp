@@ -50,9 +50,8 @@ TEST(CopyPlan, cutsInTheShapeOfTheScreen)
     EXPECT_EQ(planCut({}, screen), std::nullopt);
 }
 
-class Copies : public ::testing::Test
+struct Copies : ::testing::Test
 {
-protected:
     QString picture(const QString &name, QImage::Format format, const QColor &colour = Qt::red)
     {
         QImage image(1200, 900,

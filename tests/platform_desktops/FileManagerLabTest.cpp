@@ -6,19 +6,15 @@
 
 #include <QSettings>
 
-using namespace moravel;
-using namespace moravel::testing;
-
 namespace {
 
-class FileManagerLab : public DesktopLab
+struct FileManagerLab : DesktopLab
 {
-protected:
     FileManagerLab()
     {
         m_painted = {0};
         if (row().isKeyFile)
-            m_refused = QStringList(QStringLiteral("two\nlines.png"));
+            m_refused = QStringList(u"two\nlines.png"_s);
     }
 
     const FileManagerDesktop &row() const
@@ -38,56 +34,25 @@ protected:
     }
 };
 
-TEST_F(FileManagerLab, setsOneScreenAndBoth)
-{
-    setsOneScreenAndBoth();
-    tellsOnceThatOnePictureServesAll();
-}
-
-TEST_F(FileManagerLab, laysOutEachSizing)
-{
-    laysOutEachSizing();
-}
-
-TEST_F(FileManagerLab, takesOddNames)
-{
-    takesOddNames();
-}
-
-TEST_F(FileManagerLab, repaintsARewrittenFile)
-{
-    repaintsARewrittenFile();
-}
-
-TEST_F(FileManagerLab, noticesChangesFromOutside)
-{
-    noticesChangesFromOutside();
-}
+DESKTOP_TESTS(FileManagerLab)
+DESKTOP_TEST(FileManagerLab, noticesChangesFromOutside)
 
 TEST_F(FileManagerLab, readsASlideshowAsItsFolder)
 {
     if (row().isKeyFile)
         GTEST_SKIP() << "there is none";
     QSettings file(settings(), QSettings::IniFormat);
-    file.setValue(QStringLiteral("Desktop/SlideShowInterval"), 60'000);
-    file.setValue(QStringLiteral("Desktop/WallpaperDirectory"), m_folder.path());
+    file.setValue(u"Desktop/SlideShowInterval"_s, 60'000);
+    file.setValue(u"Desktop/WallpaperDirectory"_s, m_folder.path());
     file.sync();
     EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }));
-    const QString red = picture(QStringLiteral("red.png"), Qt::red);
-    EXPECT_NE(set(red, first, DesktopScaling::Fill), QString());
-    file.setValue(QStringLiteral("Desktop/SlideShowInterval"), 0);
+    EXPECT_NE(set(red, first, Fill), QString());
+    file.setValue(u"Desktop/SlideShowInterval"_s, 0);
     file.sync();
     EXPECT_TRUE(within(1'000, [&] { return !shown(first).endsWith(u'/'); }));
 }
 
-TEST_F(FileManagerLab, followsThePluggedScreen)
-{
-    followsThePluggedScreen();
-}
-
-TEST_F(FileManagerLab, comesBackAfterRestart)
-{
-    comesBackAfterRestart(restart);
-}
+DESKTOP_TEST(FileManagerLab, followsThePluggedScreen)
+DESKTOP_TEST(FileManagerLab, comesBackAfterRestart)
 
 } // namespace

@@ -55,9 +55,8 @@ TEST(FileManagers, namesThatTheSettingsCannotHoldAreRefused)
 }
 
 /// A command that keeps the settings as the file manager does, and a count of its calls.
-class FileManager : public ::testing::Test
+struct FileManager : ::testing::Test
 {
-protected:
     void install(const char *when)
     {
         const QString program =

@@ -3,16 +3,12 @@
 
 #include "platform/linux/desktops/SwayFullScreen.h"
 
-namespace moravel {
+namespace {
 
 TEST(SwayFullScreen, readsTheTree)
 {
     // Window 7 has the focus. Workspaces always say that they are in full screen.
-    const struct
-    {
-        const char *what, *windows;
-        std::optional<bool> fullScreen;
-    } cases[] = {
+    const Table<const char *, const char *, std::optional<bool>> cases{
         {"plain", R"({"type": "con", "pid": 7, "focused": true, "fullscreen_mode": 0})", false},
         {"full", R"({"type": "con", "pid": 7, "focused": true, "fullscreen_mode": 1})", true},
         {"on all screens", R"({"type": "con", "pid": 7, "focused": true, "fullscreen_mode": 2})",
@@ -28,7 +24,6 @@ TEST(SwayFullScreen, readsTheTree)
         {"damaged", R"({"type": 3, "nodes": {}, "focused": "yes"}, 5)", false},
         {"cut off", R"({"type")", std::nullopt},
     };
-
     for (const auto &[what, windows, fullScreen] : cases) {
         const QByteArray tree =
             QByteArray(
@@ -38,4 +33,4 @@ TEST(SwayFullScreen, readsTheTree)
     }
 }
 
-} // namespace moravel
+} // namespace

@@ -4,17 +4,15 @@
 
 #include "platform/linux/desktops/GSettingsDesktops.h"
 
-#include <QFile>
 #include <QRegularExpression>
 
-using namespace moravel;
-using namespace moravel::testing;
+#include <cstdio>
+#include <fcntl.h>
 
 namespace {
 
-class GSettingsLab : public DesktopLab
+struct GSettingsLab : DesktopLab
 {
-protected:
     const GSettingsDesktop &row() const
     {
         return *gsettingsDesktop(qEnvironmentVariable("XDG_CURRENT_DESKTOP").section(u':', 0, 0));
@@ -22,10 +20,8 @@ protected:
 
     static void write(const char *schema, const char *key, const QString &value)
     {
-        ASSERT_EQ(run(QStringLiteral("gsettings"),
-                      {QStringLiteral("set"), QString::fromLatin1(schema), QString::fromLatin1(key),
-                       value}),
-                  0);
+        const QString line = u"gsettings set %1 %2"_s;
+        ASSERT_EQ(run(line.arg(QLatin1String(schema), QLatin1String(key)), {value}), 0);
     }
 
     void setOutside(const QString &path) override
@@ -44,61 +40,30 @@ protected:
     void plugVirtualMonitor(bool in)
     {
         const QString call =
-            QStringLiteral("gdbus call --session -d org.gnome.Mutter.DisplayConfig "
-                           "-o /org/gnome/Mutter/DisplayConfig -m org.gnome.Mutter.DisplayConfig.");
-        QStringList words = QProcess::splitCommand(call + QStringLiteral("GetCurrentState"));
-        const QString state = output(words.takeFirst(), words);
-        const QString serial =
-            QRegularExpression(QStringLiteral("uint32 (\\d+)")).match(state).captured(1);
+            u"gdbus call --session -d org.gnome.Mutter.DisplayConfig "
+            "-o /org/gnome/Mutter/DisplayConfig -m org.gnome.Mutter.DisplayConfig."_s;
+        const QString state = output(call + u"GetCurrentState"_s);
+        const QString serial = QRegularExpression(u"uint32 (\\d+)"_s).match(state).captured(1);
         QString monitors =
-            QStringLiteral("(0,0,1.0,uint32 0,true,[('%1','800x600@60.000',@a{sv} {})])")
-                .arg(first);
+            u"(0,0,1.0,uint32 0,true,[('%1','800x600@60.000',@a{sv} {})])"_s.arg(first);
         if (in)
-            monitors +=
-                QStringLiteral(",(800,0,1.0,0,false,[('%1','800x600@60.000',{})])").arg(second);
-        words = QProcess::splitCommand(call + QStringLiteral("ApplyMonitorsConfig"));
-        const QString program = words.takeFirst();
-        words << serial << QStringLiteral("1") << u'[' + monitors + u']' << QStringLiteral("{}");
-        EXPECT_EQ(run(program, words), 0);
+            monitors += u",(800,0,1.0,0,false,[('%1','800x600@60.000',{})])"_s.arg(second);
+        const QStringList words{serial, u"1"_s, u'[' + monitors + u']', u"{}"_s};
+        EXPECT_EQ(run(call + u"ApplyMonitorsConfig"_s, words), 0);
     }
 };
 
-TEST_F(GSettingsLab, setsOneScreenAndBoth)
-{
-    setsOneScreenAndBoth();
-    tellsOnceThatOnePictureServesAll();
-}
-
-TEST_F(GSettingsLab, laysOutEachSizing)
-{
-    laysOutEachSizing();
-}
-
-TEST_F(GSettingsLab, takesOddNames)
-{
-    takesOddNames();
-}
-
-TEST_F(GSettingsLab, repaintsARewrittenFile)
-{
-    repaintsARewrittenFile();
-}
-
-TEST_F(GSettingsLab, noticesChangesFromOutside)
-{
-    noticesChangesFromOutside();
-}
+DESKTOP_TESTS(GSettingsLab)
+DESKTOP_TEST(GSettingsLab, noticesChangesFromOutside)
 
 TEST_F(GSettingsLab, readsASlideshowAsItsFolderAndEndsIt)
 {
-    const QString red = picture(QStringLiteral("red.png"), Qt::red);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, first, Fill), QString());
     if (row().slideshowSchema) {
-        write(row().slideshowSchema, "image-source",
-              QStringLiteral("directory://") + m_folder.path());
-        write(row().slideshowSchema, "slideshow-enabled", QStringLiteral("true"));
+        write(row().slideshowSchema, "image-source", u"directory://"_s + m_folder.path());
+        write(row().slideshowSchema, "slideshow-enabled", u"true"_s);
     } else {
-        QFile show(m_folder.filePath(QStringLiteral("show.xml")));
+        QFile show(m_folder.filePath(u"show.xml"_s));
         ASSERT_TRUE(show.open(QIODevice::WriteOnly));
         show.write("<background><static><duration>9</duration><file>" + red.toUtf8()
                    + "</file></static></background>");
@@ -106,37 +71,38 @@ TEST_F(GSettingsLab, readsASlideshowAsItsFolderAndEndsIt)
     }
     EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }))
         << qPrintable(shown(first));
-    const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
-    ASSERT_EQ(set(blue, first, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(blue, first, Fill), QString());
     EXPECT_EQ(shown(first), blue);
     EXPECT_TRUE(seenOnAll(Qt::blue));
 }
 
 TEST_F(GSettingsLab, reportsAWriteThatIsRefusedLater)
 {
-    const QString red = picture(QStringLiteral("red.png"), Qt::red);
-    const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
-    // With a file in the place of its folder the settings' service cannot write.
-    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/dconf");
-    ASSERT_TRUE(QFile::rename(folder, folder + u'_') && QFile::copy(red, folder));
-    EXPECT_NE(set(blue, first, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, first, Fill), QString());
+    // With a file in the place of its folder the settings' service cannot write. They change places at
+    // one stroke, since the service makes a folder where it finds none.
+    const QByteArray folder = qgetenv("XDG_CONFIG_HOME") + "/dconf";
+    const QByteArray file = folder + "_";
+    const auto exchange = [&] {
+        return ::renameat2(AT_FDCWD, file.constData(), AT_FDCWD, folder.constData(),
+                           RENAME_EXCHANGE);
+    };
+    ASSERT_TRUE(QFile::copy(red, QFile::decodeName(file)));
+    ASSERT_EQ(exchange(), 0);
+    EXPECT_NE(set(blue, first, Fill), QString());
     EXPECT_EQ(shown(first), red);
-    ASSERT_TRUE(QFile::remove(folder) && QFile::rename(folder + u'_', folder));
+    ASSERT_EQ(exchange(), 0);
     // The service may answer the change after a refused one with that refusal.
-    EXPECT_TRUE(within(10'000, [&] { return set(blue, first, DesktopScaling::Fill).isEmpty(); }));
+    EXPECT_TRUE(within(10'000, [&] { return set(blue, first, Fill).isEmpty(); }));
 }
 
-TEST_F(GSettingsLab, followsThePluggedScreen)
-{
-    followsThePluggedScreen();
-}
+DESKTOP_TEST(GSettingsLab, followsThePluggedScreen)
 
 TEST_F(GSettingsLab, comesBackAfterRestart)
 {
     if (QGuiApplication::platformName() != u"xcb")
         GTEST_SKIP() << "the session ends with its compositor";
-    comesBackAfterRestart(restart);
+    comesBackAfterRestart();
 }
 
 } // namespace

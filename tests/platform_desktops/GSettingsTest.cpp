@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Runs on schemas of its own and GLib's memory backend; the settings of the user are out of reach.
 #include "platform_desktops/SetPicture.h"
-#include "support/Test.h"
 
 #include "platform/linux/desktops/FileUrls.h"
 #include "platform/linux/desktops/GSettingsPictures.h"
@@ -54,9 +53,8 @@ constexpr const char *Schemas = R"(<schemalist>
 <key name="image-source" type="s"><default>'directory:///usr/share/slides'</default></key></schema>
 </schemalist>)";
 
-class GSettings : public ::testing::Test
+struct GSettings : ::testing::Test
 {
-protected:
     static void SetUpTestSuite()
     {
         s_schemas = std::make_unique<TempHome>();

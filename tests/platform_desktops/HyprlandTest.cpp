@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "platform_desktops/SetPicture.h"
-#include "support/Test.h"
 
 #include "platform/linux/desktops/HyprlandPictures.h"
 #include "platform/linux/desktops/HyprpaperCommands.h"
@@ -49,9 +48,8 @@ private:
     QLocalServer m_server;
 };
 
-class HyprlandTest : public ::testing::Test
+struct HyprlandTest : ::testing::Test
 {
-protected:
     QString set(HyprlandPictures &pictures, const QString &path,
                 DesktopScaling scaling = DesktopScaling::Fill)
     {

@@ -6,8 +6,6 @@
 #include "platform/linux/desktops/DesktopRecord.h"
 #include "platform/linux/desktops/PicturePlacement.h"
 
-#include <QTemporaryDir>
-
 #include <sys/stat.h>
 
 namespace {
@@ -36,9 +34,8 @@ TEST(PicturePlacement, keepsBothPartsBounded)
     }
 }
 
-class DesktopDecoder : public ::testing::Test
+struct DesktopDecoder : ::testing::Test
 {
-protected:
     QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 
     /// Writes a picture with a red left and a blue right half.

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform_desktops/SetPicture.h"
-#include "platform_session/PrivateBus.h"
-#include "support/Test.h"
+#include "platform_session/FakeServices.h"
 
 #include "platform/linux/desktops/FileUrls.h"
 #include "platform/linux/desktops/PlasmaPictures.h"
 
-#include <QDBusContext>
-#include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -82,51 +79,8 @@ TEST(PlasmaScript, answersAreUnderstoodOrRefused)
     EXPECT_EQ(parsePlasmaDesktops(u"[7,{\"x\":\"a\"}]\n"_s)->size(), 2);
 }
 
-/// Stands in for the shell: knows one screen and the two scripts.
-class FakeShell : public QObject, protected QDBusContext
+struct Plasma : ::testing::Test
 {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.PlasmaShell")
-
-public:
-    QString plugin = u"org.kde.slideshow"_s;
-    QString image;
-    QStringList images; ///< All that was set.
-    QString error; ///< Not empty: what every script is answered with.
-    bool isDeaf = false;
-
-public Q_SLOTS:
-
-    QString evaluateScript(const QString &script)
-    {
-        static const QRegularExpression set(u"writeConfig\\(\"Image\", (\".*\")\\)"_s);
-        if (!error.isEmpty()) {
-            sendErrorReply(QDBusError::Failed, error);
-            return {};
-        }
-        const auto match = set.match(script);
-        if (!match.hasMatch()) {
-            const QJsonObject desktop{{u"x"_s, 0},
-                                      {u"y"_s, 0},
-                                      {u"plugin"_s, plugin},
-                                      {u"image"_s, image},
-                                      {u"folders"_s, u"/slides,/more"_s}};
-            return QString::fromUtf8(QJsonDocument(QJsonArray{desktop}).toJson());
-        }
-        const QString text =
-            QJsonDocument::fromJson('[' + match.captured(1).toUtf8() + ']')[0].toString();
-        images += text;
-        if (!isDeaf) {
-            plugin = u"org.kde.image"_s;
-            image = text;
-        }
-        return u"[]"_s;
-    }
-};
-
-class Plasma : public ::testing::Test
-{
-protected:
     void SetUp() override
     {
         qputenv("XDG_CONFIG_HOME", m_home.path().toUtf8());
@@ -138,22 +92,48 @@ protected:
 
     void start()
     {
-        auto bus = m_bus.connection();
-        m_shellsBus = bus.name();
-        bus.registerObject(u"/PlasmaShell"_s, &m_shell, QDBusConnection::ExportAllSlots);
-        EXPECT_TRUE(bus.registerService(u"org.kde.plasmashell"_s));
+        m_shell.reset();
+        m_shell = std::make_unique<FakeService>(
+            m_bus.connection(), "org.kde.plasmashell",
+            [this](const QDBusMessage &call) { return evaluate(call.arguments()[0].toString()); });
     }
 
-    void stop() { QDBusConnection::disconnectFromBus(m_shellsBus); }
+    /// Knows one screen and the two scripts.
+    QString evaluate(const QString &script)
+    {
+        static const QRegularExpression set(u"writeConfig\\(\"Image\", (\".*\")\\)"_s);
+        if (!error.isEmpty())
+            return u'!' + error;
+        const auto match = set.match(script);
+        if (!match.hasMatch()) {
+            const QJsonObject desktop{{u"x"_s, 0},
+                                      {u"y"_s, 0},
+                                      {u"plugin"_s, plugin},
+                                      {u"image"_s, image},
+                                      {u"folders"_s, u"/slides,/more"_s}};
+            return QString::fromUtf8(QJsonDocument(QJsonArray{desktop}).toJson());
+        }
+        images += QJsonDocument::fromJson('[' + match.captured(1).toUtf8() + ']')[0].toString();
+        if (!isDeaf) {
+            plugin = u"org.kde.image"_s;
+            image = images.last();
+        }
+        return u"[]"_s;
+    }
 
     QString url() const { return m_pictures->desktopImageUrl(m_screen); }
 
     QString set(const QString &path) { return setPicture(*m_pictures, path, m_screen); }
 
+    QString plugin = u"org.kde.slideshow"_s;
+    QString image;
+    QStringList images; ///< All that was set.
+    QString error; ///< Not empty: what every script is answered with.
+    bool isDeaf = false;
     TempHome m_home;
     PrivateBus m_bus;
-    QString m_shellsBus, m_screen;
-    FakeShell m_shell;
+    QString m_screen;
+    std::unique_ptr<FakeService> m_shell;
     std::unique_ptr<PlasmaPictures> m_pictures;
 };
 
@@ -167,7 +147,7 @@ TEST_F(Plasma, setsReadsBackAndSpellsARewrittenFileAnew)
     EXPECT_EQ(set(path), QString());
     EXPECT_EQ(url(), fileUrl(path));
     const QString usual = plasmaImage(path, false);
-    EXPECT_EQ(m_shell.images, QStringList({usual, usual, plasmaImage(path, true)}));
+    EXPECT_EQ(images, QStringList({usual, usual, plasmaImage(path, true)}));
 }
 
 TEST_F(Plasma, tellsWhatFailed)
@@ -175,9 +155,9 @@ TEST_F(Plasma, tellsWhatFailed)
     const QString path = m_home.write(u"a.png"_s, "one");
     EXPECT_EQ(set(path + u'x'), u"The picture is not a file.");
     EXPECT_EQ(setPicture(*m_pictures, path, u"gone"_s), u"The screen is not connected.");
-    m_shell.isDeaf = true;
+    isDeaf = true;
     EXPECT_EQ(set(path), u"The desktop did not keep the picture that it was given.");
-    m_shell.error = u"Widgets are locked\nbacktrace"_s;
+    error = u"Widgets are locked\nbacktrace"_s;
     EXPECT_EQ(set(path), u"Widgets are locked");
     EXPECT_EQ(url(), u"file://localhost/slides/");
 }
@@ -185,9 +165,9 @@ TEST_F(Plasma, tellsWhatFailed)
 TEST_F(Plasma, followsTheSettingsFileAlsoWhenItIsReplaced)
 {
     const QString file = m_home.path(u"plasma-org.kde.plasma.desktop-appletsrc"_s);
-    m_shell.plugin = u"org.kde.image"_s;
+    plugin = u"org.kde.image"_s;
     for (const char *name : {"1", "2", "3"}) {
-        m_shell.image = "file:///"_L1 + QLatin1String(name);
+        image = "file:///"_L1 + QLatin1String(name);
         const QString part = m_home.write(u"part"_s, name);
         ASSERT_EQ(std::rename(qPrintable(part), qPrintable(file)), 0);
         MORAVEL_WAIT(url() == "file://localhost/"_L1 + QLatin1String(name));
@@ -198,14 +178,11 @@ TEST_F(Plasma, noticesARestartedShell)
 {
     int changes = 0;
     m_pictures->onScreensChanged = [&] { ++changes; };
-    stop();
-    m_shell.plugin = u"org.kde.image"_s;
-    m_shell.image = u"/new.png"_s;
+    plugin = u"org.kde.image"_s;
+    image = u"/new.png"_s;
     start();
     MORAVEL_WAIT(changes > 0);
     EXPECT_EQ(url(), u"file://localhost/new.png");
 }
 
 } // namespace
-
-#include "PlasmaTest.moc"

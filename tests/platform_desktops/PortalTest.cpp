@@ -1,37 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "platform_desktops/SetPicture.h"
-#include "platform_session/PrivateBus.h"
-#include "support/Test.h"
+#include "platform_session/FakeServices.h"
 
 #include "platform/linux/PosixFiles.h"
 #include "platform/linux/desktops/PortalPictures.h"
 
-#include <QDBusContext>
-#include <QDBusObjectPath>
 #include <QDBusUnixFileDescriptor>
 
 namespace {
 
 /// Stands in for the portal: reads the picture and answers as it is told.
-class FakePortal : public QObject, protected QDBusContext
+class FakePortal : public FakeService
 {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Wallpaper")
-
 public:
-    explicit FakePortal(const QDBusConnection &bus) : m_bus(bus)
-    {
-        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
-                             QDBusConnection::ExportAllSlots);
-        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
-    }
+    explicit FakePortal(const QDBusConnection &connection)
+        : FakeService(connection, "org.freedesktop.portal.Desktop",
+                      [this](const QDBusMessage &call) { return answer(call); })
+    { }
 
     void respond(uint result)
     {
-        auto signal =
-            QDBusMessage::createSignal(object, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        signal << result << QVariantMap();
-        m_bus.send(signal);
+        tell(object + u" org.freedesktop.portal.Request"_s, "Response", {result, QVariantMap()});
     }
 
     bool fails = false;
@@ -41,32 +30,28 @@ public:
     QByteArray content;
     QVariantMap options;
 
-public Q_SLOTS:
-
-    QDBusObjectPath SetWallpaperFile(const QString &, const QDBusUnixFileDescriptor &file,
-                                     const QVariantMap &given)
-    {
-        QFile picture;
-        EXPECT_TRUE(picture.open(file.fileDescriptor(), QIODevice::ReadOnly));
-        content = picture.readAll();
-        options = given;
-        QString sender = message().service().mid(1);
-        object = u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(
-            sender.replace(u'.', u'_'), given[u"handle_token"_s].toString());
-        if (fails)
-            sendErrorReply(QDBusError::UnknownInterface, u"no such thing"_s);
-        else if (!asksTheUser)
-            respond(code); // before the reply
-        return QDBusObjectPath(object);
-    }
-
 private:
-    QDBusConnection m_bus;
+    QVariant answer(const QDBusMessage &call)
+    {
+        if (call.member() == u"Close") // of a question
+            return {};
+        const auto given = call.arguments().value(1).value<QDBusUnixFileDescriptor>();
+        QFile picture;
+        EXPECT_TRUE(picture.open(given.fileDescriptor(), QIODevice::ReadOnly));
+        content = picture.readAll();
+        options = qdbus_cast<QVariantMap>(call.arguments().value(2));
+        object = u"/org/freedesktop/portal/desktop/request/%1/%2"_s.arg(
+            call.service().mid(1).replace(u'.', u'_'), options[u"handle_token"_s].toString());
+        if (fails)
+            return u"!no such thing"_s;
+        if (!asksTheUser)
+            respond(code); // before the reply
+        return QVariant::fromValue(QDBusObjectPath(object));
+    }
 };
 
-class PortalTest : public ::testing::Test
+struct PortalTest : ::testing::Test
 {
-protected:
     using Answer = std::optional<tl::expected<void, DesktopError>>;
 
     void start(PortalPictures &pictures, const QString &path, Answer &answer)
@@ -136,5 +121,3 @@ TEST_F(PortalTest, theNewestPictureEndsAnOpenQuestion)
 }
 
 } // namespace
-
-#include "PortalTest.moc"

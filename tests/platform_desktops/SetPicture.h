@@ -6,8 +6,6 @@
 #include "platform/DesktopPictures.h"
 #include "platform/linux/desktops/FileUrls.h"
 
-#include <optional>
-
 namespace moravel::testing {
 
 /// Sets a picture and waits for the answer, which must not come from within: what failed, empty for nothing.

@@ -6,56 +6,27 @@
 
 #include <unistd.h>
 
-using namespace moravel;
-using namespace moravel::testing;
-
 namespace {
 
 using X11Lab = DesktopLab;
 
-TEST_F(X11Lab, setsOneScreenAndBoth)
-{
-    setsOneScreenAndBoth();
-}
-
-TEST_F(X11Lab, laysOutEachSizing)
-{
-    laysOutEachSizing();
-}
-
-TEST_F(X11Lab, takesOddNames)
-{
-    takesOddNames();
-}
-
-TEST_F(X11Lab, repaintsARewrittenFile)
-{
-    repaintsARewrittenFile();
-}
-
-TEST_F(X11Lab, followsThePluggedScreen)
-{
-    followsThePluggedScreen();
-}
+DESKTOP_TESTS(X11Lab)
 
 TEST_F(X11Lab, keepsThePictureWhenThePictureCannotBeRead)
 {
-    const QString red = picture(QStringLiteral("red.png"), {900, 700}, Qt::red);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
-    EXPECT_NE(set(QStringLiteral("/none.png"), first, DesktopScaling::Fill), QString());
-    EXPECT_NE(set(QString(), first, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, first, Fill), QString());
+    EXPECT_NE(set(u"/none.png"_s, first, Fill), QString());
+    EXPECT_NE(set(QString(), first, Fill), QString());
     EXPECT_EQ(shown(first), red);
     EXPECT_TRUE(seen(0, Middle, Qt::red));
 }
 
 TEST_F(X11Lab, noticesAnotherSetterAndPaintsAroundIt)
 {
-    const QString red = picture(QStringLiteral("red.png"), {900, 700}, Qt::red);
-    const QString blue = picture(QStringLiteral("blue.png"), {900, 700}, Qt::blue);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
-    ASSERT_EQ(run(QStringLiteral("xwallpaper"), {QStringLiteral("--zoom"), blue}), 0);
+    ASSERT_EQ(set(red, first, Fill), QString());
+    ASSERT_EQ(run(u"xwallpaper --zoom"_s, {blue}), 0);
     MORAVEL_WAIT(shown(first).isEmpty());
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, first, Fill), QString());
     EXPECT_TRUE(seen(0, Middle, Qt::red) && seen(1, Middle, Qt::blue));
     EXPECT_EQ(shown(first), red);
     EXPECT_EQ(shown(second), QString());
@@ -63,15 +34,13 @@ TEST_F(X11Lab, noticesAnotherSetterAndPaintsAroundIt)
 
 TEST_F(X11Lab, remembersAcrossStartsAndPaintsANewSessionAgain)
 {
-    const QString red = picture(QStringLiteral("red.png"), {900, 700}, Qt::red);
-    ASSERT_EQ(set(red, second, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, second, Fill), QString());
     m_desktop = make();
     EXPECT_EQ(shown(second), red);
     for (const char *name : {"_XROOTPMAP_ID", "ESETROOT_PMAP_ID"})
-        run(QStringLiteral("xprop"),
-            {QStringLiteral("-root"), QStringLiteral("-remove"), QString::fromLatin1(name)});
+        run(u"xprop -root -remove"_s, {QLatin1String(name)});
     MORAVEL_WAIT(shown(second).isEmpty());
-    run(QStringLiteral("xsetroot"), {QStringLiteral("-solid"), QStringLiteral("#00ff00")});
+    run(u"xsetroot -solid #00ff00"_s);
     m_desktop = make();
     EXPECT_TRUE(seen(1, Middle, Qt::red));
     MORAVEL_WAIT(shown(second) == red);
@@ -79,17 +48,13 @@ TEST_F(X11Lab, remembersAcrossStartsAndPaintsANewSessionAgain)
 
 TEST_F(X11Lab, paintsAgainWhenAScreenComesBack)
 {
-    const QString red = picture(QStringLiteral("red.png"), {900, 700}, Qt::red);
-    const QString blue = picture(QStringLiteral("blue.png"), {900, 700}, Qt::blue);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
-    ASSERT_EQ(set(blue, second, DesktopScaling::Fill), QString());
+    ASSERT_EQ(set(red, first, Fill), QString());
+    ASSERT_EQ(set(blue, second, Fill), QString());
     int told = 0;
     m_desktop->onScreensChanged = [&] { ++told; };
-    run(QStringLiteral("xrandr"), {QStringLiteral("--output"), second, QStringLiteral("--off")});
+    plug(false);
     MORAVEL_WAIT(told == 1 && m_desktop->screens().size() == 1);
-    run(QStringLiteral("xrandr"),
-        {QStringLiteral("--output"), second, QStringLiteral("--mode"), QStringLiteral("800x600"),
-         QStringLiteral("--pos"), QStringLiteral("800x0")});
+    plug(true);
     MORAVEL_WAIT(told == 2 && m_desktop->screens().size() == 2);
     EXPECT_TRUE(seen(0, Middle, Qt::red) && seen(1, Middle, Qt::blue));
     EXPECT_EQ(shown(second), blue);
@@ -127,5 +92,7 @@ TEST_F(X11Lab, knowsWhenAnotherProgramFillsTheScreen)
     EXPECT_EQ(told, 4);
     xcb_destroy_window(c, window);
 }
+
+DESKTOP_TEST(X11Lab, followsThePluggedScreen)
 
 } // namespace

@@ -3,73 +3,40 @@
 
 #include "desktop/DesktopWorld.h"
 
-using namespace moravel;
-using namespace moravel::testing;
-
 namespace {
 
-class XfceLab : public DesktopLab
+struct XfceLab : DesktopLab
 {
-protected:
     /// Sets a property as the desktop's own settings window would.
     static void xfconf(const QString &property, const QString &type, const QString &value)
     {
-        ASSERT_EQ(run(QStringLiteral("xfconf-query"),
-                      {QStringLiteral("-c"), QStringLiteral("xfce4-desktop"), QStringLiteral("-p"),
-                       property, QStringLiteral("-n"), QStringLiteral("-t"), type,
-                       QStringLiteral("-s"), value}),
-                  0);
+        const QString line = u"xfconf-query -c xfce4-desktop -n -t %1 -p %2 -s"_s;
+        ASSERT_EQ(run(line.arg(type, property), {value}), 0);
     }
 
     void setOutside(const QString &path) override
     {
-        xfconf(m_base + QStringLiteral("0/last-image"), QStringLiteral("string"), path);
+        xfconf(m_base + u"0/last-image"_s, u"string"_s, path);
     }
 
     static void haveOnePicture(bool forAllWorkspaces)
     {
-        xfconf(QStringLiteral("/backdrop/single-workspace-mode"), QStringLiteral("bool"),
+        xfconf(u"/backdrop/single-workspace-mode"_s, u"bool"_s,
                QVariant(forAllWorkspaces).toString());
     }
 
-    static void goTo(int workspace)
-    {
-        ASSERT_EQ(run(QStringLiteral("wmctrl"), {QStringLiteral("-s"), QString::number(workspace)}),
-                  0);
-    }
+    static void goTo(int workspace) { ASSERT_EQ(run(u"wmctrl -s %1"_s.arg(workspace)), 0); }
 
-    QString m_base = QStringLiteral("/backdrop/screen0/monitorDUMMY0/workspace");
+    QString m_base = u"/backdrop/screen0/monitorDUMMY0/workspace"_s;
 };
 
-TEST_F(XfceLab, setsOneScreenAndBoth)
-{
-    setsOneScreenAndBoth();
-}
-
-TEST_F(XfceLab, laysOutEachSizing)
-{
-    laysOutEachSizing();
-}
-
-TEST_F(XfceLab, takesOddNames)
-{
-    takesOddNames();
-}
-
-TEST_F(XfceLab, repaintsARewrittenFile)
-{
-    repaintsARewrittenFile();
-}
-
-TEST_F(XfceLab, noticesChangesFromOutside)
-{
-    noticesChangesFromOutside();
-}
+DESKTOP_TESTS(XfceLab)
+DESKTOP_TEST(XfceLab, noticesChangesFromOutside)
 
 TEST_F(XfceLab, takesManyChangesInARow)
 {
-    const QString red = picture(QStringLiteral("red.png"), {3000, 2000}, Qt::red);
-    const QString blue = picture(QStringLiteral("blue.png"), {3000, 2000}, Qt::blue);
+    red = picture(u"red.png"_s, {3000, 2000}, Qt::red);
+    blue = picture(u"blue.png"_s, {3000, 2000}, Qt::blue);
     for (int i = 0; i < 6; ++i) {
         const auto scaling = i % 2 ? DesktopScaling::Fill : DesktopScaling::Fit;
         ASSERT_EQ(set(i % 2 ? blue : red, first, scaling), QString());
@@ -79,15 +46,13 @@ TEST_F(XfceLab, takesManyChangesInARow)
 
 TEST_F(XfceLab, putsThePictureBackOnAnotherWorkspace)
 {
-    const QString red = picture(QStringLiteral("red.png"), Qt::red);
-    const QString blue = picture(QStringLiteral("blue.png"), Qt::blue);
     haveOnePicture(false);
     startProgram(true);
     m_program->preferences.setDesktopOptions(Preferences::AllSpacesTag);
     m_program->desktop->setter().setDesktopToFile(red);
     EXPECT_TRUE(seenOnAll(Qt::red));
     EXPECT_TRUE(within(5'000, [&] { return m_program->desktop->currentDesktopPath() == red; }));
-    xfconf(m_base + QStringLiteral("1/last-image"), QStringLiteral("string"), blue);
+    xfconf(m_base + u"1/last-image"_s, u"string"_s, blue);
     goTo(1);
     EXPECT_TRUE(within(5'000, [&] { return shown(first) == blue; }));
     EXPECT_TRUE(within(5'000, [&] { return shown(first) == red; }));
@@ -98,23 +63,15 @@ TEST_F(XfceLab, putsThePictureBackOnAnotherWorkspace)
 
 TEST_F(XfceLab, readsItsOwnCyclingAsTheFolder)
 {
-    const QString red = picture(QStringLiteral("red.png"), Qt::red);
-    ASSERT_EQ(set(red, first, DesktopScaling::Fill), QString());
-    const QString cycling = m_base + QStringLiteral("0/backdrop-cycle-enable");
-    xfconf(cycling, QStringLiteral("bool"), QStringLiteral("true"));
+    ASSERT_EQ(set(red, first, Fill), QString());
+    const QString cycling = m_base + u"0/backdrop-cycle-enable"_s;
+    xfconf(cycling, u"bool"_s, u"true"_s);
     EXPECT_TRUE(within(1'000, [&] { return shown(first) == m_folder.path() + u'/'; }));
-    xfconf(cycling, QStringLiteral("bool"), QStringLiteral("false"));
+    xfconf(cycling, u"bool"_s, u"false"_s);
     EXPECT_TRUE(within(1'000, [&] { return !shown(first).endsWith(u'/'); }));
 }
 
-TEST_F(XfceLab, followsThePluggedScreen)
-{
-    followsThePluggedScreen();
-}
-
-TEST_F(XfceLab, comesBackAfterRestart)
-{
-    comesBackAfterRestart(restart);
-}
+DESKTOP_TEST(XfceLab, followsThePluggedScreen)
+DESKTOP_TEST(XfceLab, comesBackAfterRestart)
 
 } // namespace

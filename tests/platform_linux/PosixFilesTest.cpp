@@ -11,9 +11,8 @@
 
 namespace {
 
-class PosixFilesTest : public ::testing::Test
+struct PosixFilesTest : ::testing::Test
 {
-protected:
     QStringList names(const QString &folder = {}) const
     {
         return QDir(m_home.path(folder))

@@ -11,9 +11,8 @@
 
 namespace {
 
-class TrashOfHome : public ::testing::Test
+struct TrashOfHome : ::testing::Test
 {
-protected:
     FileResult<void> discard(const QString &path, int second = 0) const
     {
         return trash.moveToTrash(path, QDateTime(QDate(2011, 7, 4), QTime(9, 30, second)));
@@ -125,9 +124,8 @@ TEST_F(TrashOfHome, LeavesAFileThatItCannotTake)
     }
 }
 
-class TrashOfVolume : public TrashOfHome
+struct TrashOfVolume : TrashOfHome
 {
-protected:
     void SetUp() override
     {
         if (!volume.isMounted())

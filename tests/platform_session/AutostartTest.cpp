@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "PrivateBus.h"
+#include "FakeServices.h"
 #include "support/FakePlatform.h"
-#include "support/Test.h"
 
 #include "platform/linux/session/AutostartEntry.h"
 #include "platform/linux/session/AutostartPortal.h"
 #include "platform/linux/session/AutostartText.h"
 #include "platform/linux/session/EndSignals.h"
-
-#include <QDBusContext>
 
 #include <csignal>
 
@@ -19,11 +16,7 @@ const QStringList Command{u"/opt/my apps/moravel"_s, u"--hidden"_s};
 
 TEST(AutostartText, tellsAndChangesWhatDesktopsRead)
 {
-    const struct
-    {
-        const char *entry;
-        bool starts;
-    } cases[] = {
+    const Table<const char *, bool> cases{
         {"", false},
         {"[Desktop Entry]\nName=x\n", false},
         {"[Desktop Entry]\nExec=x\n", true},
@@ -34,10 +27,10 @@ TEST(AutostartText, tellsAndChangesWhatDesktopsRead)
         {"[Other]\nExec=x\n", false},
     };
 
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.entry);
-        const QString entry = QString::fromLatin1(c.entry);
-        EXPECT_EQ(startsWithSession(entry), c.starts);
+    for (const auto &[text, starts] : cases) {
+        SCOPED_TRACE(text);
+        const QString entry = QString::fromLatin1(text);
+        EXPECT_EQ(startsWithSession(entry), starts);
         EXPECT_TRUE(startsWithSession(changedAutostart(entry, true, Command)));
         EXPECT_FALSE(startsWithSession(changedAutostart(entry, false, Command)));
     }
@@ -77,69 +70,37 @@ TEST(AutostartEntry, theUsersEntryCountsBeforeTheSystems)
     EXPECT_FALSE(error.isEmpty());
 }
 
-/// A portal whose user answers as the test wants.
-class FakePortal : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Background")
-
-public:
-    explicit FakePortal(QDBusConnection connection) : m_bus(connection)
-    {
-        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
-                             QDBusConnection::ExportAllSlots);
-        m_bus.registerService(u"org.freedesktop.portal.Desktop"_s);
-    }
-
-    bool allows = true;
-    QStringList commandLine;
-
-public Q_SLOTS:
-
-    QDBusObjectPath RequestBackground(const QString &, const QVariantMap &options)
-    {
-        commandLine = options.value(u"commandline"_s).toStringList();
-        const QString object = u"/answers/here"_s;
-        QDBusMessage answer =
-            QDBusMessage::createSignal(object, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        const QString autostart = u"autostart"_s;
-        answer << uint(0) << QVariantMap{{autostart, allows && options.value(autostart).toBool()}};
-        QMetaObject::invokeMethod(
-            this, [this, answer] { m_bus.send(answer); }, Qt::QueuedConnection);
-        return QDBusObjectPath(object);
-    }
-
-private:
-    QDBusConnection m_bus;
-};
-
 TEST(AutostartPortal, keepsWhatTheUserAnswered)
 {
     PrivateBus bus;
-    FakePortal portal(bus.connection());
+    bool allows = true;
+    QStringList commandLine;
+    FakeService portal(bus.connection(), "org.freedesktop.portal.Desktop",
+                       [&](const QDBusMessage &call) {
+                           const auto options = qdbus_cast<QVariantMap>(call.arguments().value(1));
+                           commandLine = options.value(u"commandline"_s).toStringList();
+                           const QVariantMap results{
+                               {u"autostart"_s, allows && options.value(u"autostart"_s).toBool()}};
+                           const auto respond = [&portal, results] {
+                               portal.tell(u"/answers/here org.freedesktop.portal.Request"_s,
+                                           "Response", {0U, results});
+                           };
+                           QMetaObject::invokeMethod(&portal, respond, Qt::QueuedConnection);
+                           return QVariant::fromValue(QDBusObjectPath(u"/answers/here"_s));
+                       });
     FakeDefaults defaults;
     AutostartPortal autostart(bus.connection(), defaults, Command);
-    int answers = 0;
-    bool ok = false;
-    const auto done = [&](const auto &result) {
-        ++answers;
-        ok = result.has_value();
-    };
-
-    const struct
-    {
-        bool allows, on, succeeds, isOn;
-    } cases[] = {{true, true, true, true}, {true, false, true, false}, {false, true, false, false}};
-
-    for (const auto &c : cases) {
-        portal.allows = c.allows;
-        autostart.setOn(c.on, done);
-        MORAVEL_WAIT(answers == 1);
-        EXPECT_EQ(ok, c.succeeds);
-        EXPECT_EQ(autostart.isOn(), c.isOn);
-        answers = 0;
+    const Table<bool, bool, bool, bool> cases{
+        {true, true, true, true}, {true, false, true, false}, {false, true, false, false}};
+    for (const auto &[allowed, on, succeeds, isOn] : cases) {
+        allows = allowed;
+        std::optional<bool> ok;
+        autostart.setOn(on, [&ok](const auto &result) { ok = result.has_value(); });
+        MORAVEL_WAIT(ok.has_value());
+        EXPECT_EQ(*ok, succeeds);
+        EXPECT_EQ(autostart.isOn(), isOn);
     }
-    EXPECT_EQ(portal.commandLine, Command);
+    EXPECT_EQ(commandLine, Command);
 }
 
 TEST(EndSignals, endOnTheMainLoop)
@@ -163,5 +124,3 @@ TEST(EndSignals, endOnTheMainLoop)
 }
 
 } // namespace
-
-#include "AutostartTest.moc"

@@ -2,13 +2,60 @@
 #include "platform/linux/session/DBusNotifications.h"
 
 #include "FakeServices.h"
-#include "PrivateBus.h"
 #include "support/FakeImages.h"
-#include "support/Test.h"
+
+#include "platform/linux/session/NotificationPicture.h"
 
 namespace {
 
 const QStringList Everything{u"body"_s, u"body-markup"_s, u"actions"_s};
+
+/// A notification service whose abilities a test sets.
+class FakeDaemon : public FakeService
+{
+public:
+    struct Shown
+    {
+        QString application, icon, title, body;
+        QStringList actions;
+        QVariantMap hints;
+        int timeout;
+    };
+
+    FakeDaemon(const QDBusConnection &connection, QStringList abilities)
+        : FakeService(connection, "org.freedesktop.Notifications",
+                      [this](const QDBusMessage &call) { return answer(call); })
+        , capabilities(std::move(abilities))
+    { }
+
+    void invoke(const QList<uint> &ids, const QString &action = u"default"_s)
+    {
+        for (const uint id : ids)
+            tell(Place, "ActionInvoked", {id, action});
+    }
+
+    static inline const QString Place =
+        u"/org/freedesktop/Notifications org.freedesktop.Notifications"_s;
+    QStringList capabilities;
+    bool broken = false; ///< Answers with errors.
+    int asked = 0;
+    QList<Shown> shown; ///< The n-th has the id n, from 1.
+
+private:
+    QVariant answer(const QDBusMessage &call)
+    {
+        const bool asks = call.member() == u"GetCapabilities";
+        asked += asks;
+        if (broken)
+            return u"!out of order"_s;
+        if (asks)
+            return capabilities;
+        const QVariantList all = call.arguments();
+        shown.append({all[0].toString(), all[2].toString(), all[3].toString(), all[4].toString(),
+                      all[5].toStringList(), qdbus_cast<QVariantMap>(all[6]), all[7].toInt()});
+        return uint(shown.size());
+    }
+};
 
 class Program : public NotificationsDelegate
 {
@@ -27,9 +74,8 @@ public:
     QStringList clicks;
 };
 
-class DBusNotificationsTest : public ::testing::Test
+struct DBusNotificationsTest : ::testing::Test
 {
-protected:
     DBusNotificationsTest() { notifications.setGrowlDelegate(&program); }
 
     static Notification notification(const std::optional<QString> &context = {})
@@ -109,7 +155,8 @@ TEST_F(DBusNotificationsTest, showsThePictureIfItCanBeRead)
     EXPECT_TRUE(images.deliver());
     MORAVEL_WAIT(daemon.shown.size() == 3);
 
-    const NotificationPicture picture = daemon.shown.first().picture();
+    const auto picture =
+        qdbus_cast<NotificationPicture>(daemon.shown.first().hints.value(u"image-data"_s));
     EXPECT_EQ(picture.width, 4);
     EXPECT_EQ(picture.height, 3);
     EXPECT_EQ(picture.rowStride, 12);
@@ -122,28 +169,23 @@ TEST_F(DBusNotificationsTest, showsThePictureIfItCanBeRead)
 TEST_F(DBusNotificationsTest, onlyTheServicesClickOnAnOpenNotificationCounts)
 {
     const QDBusConnection serviceBus = bus.connection();
-    const QDBusConnection strangerBus = bus.connection();
+    FakeService stranger(bus.connection(), "org.example.Stranger", {});
     FakeDaemon daemon(serviceBus, Everything);
     for (const char *context : {"one", "two", "three"})
         post(daemon, QString::fromLatin1(context));
     post(daemon, std::nullopt);
 
-    QDBusMessage forged =
-        QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
-                                   u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);
-    forged << uint(1) << u"default"_s;
-    strangerBus.send(forged);
-    PrivateBus::flush(strangerBus);
-    Q_EMIT daemon.NotificationClosed(2, 1);
-    for (const uint id : {0u, 2u, 4u, 5u, 0xFFFFFFFFu})
-        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
-    Q_EMIT daemon.ActionInvoked(1, u"other"_s);
-    Q_EMIT daemon.ActionInvoked(3, u"default"_s);
+    stranger.tell(FakeDaemon::Place, "ActionInvoked", {1U, u"default"_s});
+    PrivateBus::flush(stranger.bus);
+    daemon.tell(FakeDaemon::Place, "NotificationClosed", {2U, 1U});
+    daemon.invoke({0, 2, 4, 5, 0xFFFFFFFF});
+    daemon.invoke({1}, u"other"_s);
+    daemon.invoke({3});
     MORAVEL_WAIT(!program.clicks.isEmpty());
     EXPECT_EQ(program.clicks, QStringList{u"three"_s});
 
     notifications.setGrowlDelegate(nullptr);
-    Q_EMIT daemon.ActionInvoked(3, u"default"_s);
+    daemon.invoke({3});
     notifications.notify(notification()); // no one is registered, so no name is
     notifications.setGrowlDelegate(&program);
     post(daemon, u"five"_s);
@@ -155,8 +197,7 @@ TEST_F(DBusNotificationsTest, forgetsTheOldestContexts)
     FakeDaemon daemon(bus.connection(), Everything);
     for (int i = 0; i <= DBusNotifications::MostContexts; ++i)
         post(daemon, QString::number(i + 1));
-    for (const uint id : {1u, 2u})
-        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
+    daemon.invoke({1, 2});
     MORAVEL_WAIT(!program.clicks.isEmpty());
     EXPECT_EQ(program.clicks, QStringList{u"2"_s});
 }
@@ -184,8 +225,7 @@ TEST_F(DBusNotificationsTest, aMissingOrBrokenServiceIsNoErrorAndALaterOneIsUsed
     post(daemon, u"new"_s);
     EXPECT_EQ(daemon.asked, 1);
     EXPECT_EQ(daemon.shown.first().body, u"<i>x</i>"_s);
-    for (const uint id : {1u, 2u})
-        Q_EMIT daemon.ActionInvoked(id, u"default"_s);
+    daemon.invoke({1, 2});
     MORAVEL_WAIT(!program.clicks.isEmpty());
     EXPECT_EQ(program.clicks, QStringList{u"new"_s});
 }

@@ -1,117 +1,59 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "platform/linux/session/NotificationPicture.h"
+#include "PrivateBus.h"
 
-#include <QDBusConnection>
-#include <QDBusContext>
-#include <QObject>
-#include <QStringList>
-#include <QUrl>
-#include <QVariantMap>
+#include <QDBusArgument>
+#include <QDBusVirtualObject>
 
 namespace moravel::testing {
 
-/// A notification service whose abilities a test sets.
-class FakeDaemon : public QObject, protected QDBusContext
+/// A service that answers the calls of all its objects by a function.
+class FakeService : public QDBusVirtualObject
 {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
-
 public:
-    struct Shown
-    {
-        QString application, icon, title, body;
-        QStringList actions;
-        QVariantMap hints;
-        int timeout;
+    /// Gives what a call returns; a text that begins with "!" is an error.
+    using Answer = std::function<QVariant(const QDBusMessage &call)>;
 
-        NotificationPicture picture() const
-        {
-            return qdbus_cast<NotificationPicture>(hints.value(QStringLiteral("image-data")));
-        }
-    };
-
-    explicit FakeDaemon(const QDBusConnection &bus, const QStringList &abilities)
-        : capabilities(abilities), m_bus(bus)
+    FakeService(const QDBusConnection &connection, const char *name, Answer answer)
+        : bus(connection), m_name(QString::fromLatin1(name)), m_answer(std::move(answer))
     {
-        m_bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), this,
-                             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        m_bus.registerService(Name);
+        bus.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath);
+        EXPECT_TRUE(bus.registerService(m_name));
     }
 
-    ~FakeDaemon() override { m_bus.unregisterService(Name); }
-
-    QStringList capabilities;
-    bool broken = false; ///< Answers with errors.
-    int asked = 0;
-    QList<Shown> shown; ///< The n-th has the id n, from 1.
-
-public Q_SLOTS:
-
-    QStringList GetCapabilities()
+    ~FakeService() override
     {
-        ++asked;
-        fail();
-        return capabilities;
+        bus.unregisterService(m_name);
+        bus.unregisterObject(u"/"_s, QDBusConnection::UnregisterTree);
     }
 
-    uint Notify(const QString &application, uint, const QString &icon, const QString &title,
-                const QString &body, const QStringList &actions, const QVariantMap &hints,
-                int timeout)
+    /// Sends a signal of "path interface".
+    void tell(const QString &place, const char *signal, const QVariantList &arguments)
     {
-        fail();
-        shown.append({application, icon, title, body, actions, hints, timeout});
-        return uint(shown.size());
+        auto message = QDBusMessage::createSignal(place.section(u' ', 0, 0), place.section(u' ', 1),
+                                                  QLatin1String(signal));
+        message.setArguments(arguments);
+        bus.send(message);
     }
 
-Q_SIGNALS:
-    void ActionInvoked(uint id, const QString &action);
-    void NotificationClosed(uint id, uint reason);
+    bool handleMessage(const QDBusMessage &call, const QDBusConnection &connection) override
+    {
+        const QVariant answer = m_answer(call);
+        const QString text = answer.toString();
+        if (text.startsWith(u'!'))
+            return connection.send(call.createErrorReply(QDBusError::Failed, text.mid(1)));
+        return connection.send(
+            call.createReply(answer.isValid() ? QVariantList{answer} : QVariantList()));
+    }
+
+    QString introspect(const QString &) const override { return {}; }
+
+    QDBusConnection bus;
 
 private:
-    void fail()
-    {
-        if (broken)
-            sendErrorReply(QDBusError::Failed, QStringLiteral("out of order"));
-    }
-
-    const QString Name = QStringLiteral("org.freedesktop.Notifications");
-    QDBusConnection m_bus;
-};
-
-/// A file manager that notes what it shall show.
-class FakeFileManager : public QObject
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
-
-public:
-    explicit FakeFileManager(QDBusConnection bus)
-    {
-        bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), this,
-                           QDBusConnection::ExportAllSlots);
-        bus.registerService(QStringLiteral("org.freedesktop.FileManager1"));
-    }
-
-    QStringList shown;
-
-public Q_SLOTS:
-
-    void ShowItems(const QStringList &urls, const QString &) { shown += urls; }
-};
-
-/// Takes the place of the program that opens folders.
-class FakeOpener : public QObject
-{
-    Q_OBJECT
-
-public:
-    QList<QUrl> opened;
-
-public Q_SLOTS:
-
-    void open(const QUrl &url) { opened.append(url); }
+    QString m_name;
+    Answer m_answer;
 };
 
 } // namespace moravel::testing

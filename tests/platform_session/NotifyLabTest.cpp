@@ -9,7 +9,6 @@
 #include <QDBusConnectionInterface>
 #include <QDBusReply>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 
 #include <csignal>
 
@@ -17,9 +16,8 @@ namespace {
 
 const QString Service = u"org.freedesktop.Notifications"_s;
 
-class NotifyLab : public ::testing::Test, public NotificationsDelegate
+struct NotifyLab : ::testing::Test, public NotificationsDelegate
 {
-protected:
     NotifyLab() { notifications.setGrowlDelegate(this); }
 
     NotificationRegistration registrationDictionaryForGrowl() const override

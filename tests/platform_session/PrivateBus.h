@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Test.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace moravel::testing {
 
@@ -17,16 +15,16 @@ class PrivateBus
 public:
     PrivateBus()
     {
-        QFile config(m_folder.filePath(QStringLiteral("bus.conf")));
+        QFile config(m_folder.filePath(u"bus.conf"_s));
         EXPECT_TRUE(config.open(QIODevice::WriteOnly));
         config.write("<busconfig><type>session</type><listen>unix:dir=" + m_folder.path().toUtf8()
                      + "</listen><policy context=\"default\"><allow send_destination=\"*\" "
                        "eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
                        "<allow own=\"*\"/></policy></busconfig>");
         config.close();
-        m_daemon.start(QStringLiteral("dbus-daemon"),
-                       {QStringLiteral("--config-file=") + config.fileName(),
-                        QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+        m_daemon.start(
+            u"dbus-daemon"_s,
+            {u"--config-file="_s + config.fileName(), u"--nofork"_s, u"--print-address"_s});
         while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead()) { }
         m_address = QString::fromUtf8(m_daemon.readLine().trimmed());
         EXPECT_FALSE(m_address.isEmpty()) << qPrintable(m_daemon.errorString());
@@ -46,7 +44,7 @@ public:
     QDBusConnection connection()
     {
         static int number = 0;
-        m_names.append(QStringLiteral("test%1").arg(++number));
+        m_names.append(u"test%1"_s.arg(++number));
         return QDBusConnection::connectToBus(m_address, m_names.last());
     }
 
@@ -55,7 +53,7 @@ public:
     /// Returns when the bus has passed on all that @p sender sent before.
     static void flush(const QDBusConnection &sender)
     {
-        sender.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.DBus"));
+        sender.interface()->isServiceRegistered(u"org.freedesktop.DBus"_s);
     }
 
 private:

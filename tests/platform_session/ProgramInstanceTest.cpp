@@ -3,7 +3,6 @@
 #include "platform/linux/session/ProgramInstance.h"
 
 #include "PrivateBus.h"
-#include "support/Test.h"
 
 #include "platform/linux/session/Activation.h"
 
@@ -11,9 +10,8 @@
 
 namespace {
 
-class ProgramInstanceTest : public ::testing::Test
+struct ProgramInstanceTest : ::testing::Test
 {
-protected:
     ProgramInstanceTest()
     {
         instance.onAction = [this](const QString &action, const QVariantList &arguments,

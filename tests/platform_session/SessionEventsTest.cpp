@@ -2,7 +2,6 @@
 #include "platform/linux/session/SessionEvents.h"
 
 #include "PrivateBus.h"
-#include "support/Test.h"
 
 namespace {
 

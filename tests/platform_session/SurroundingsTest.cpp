@@ -1,71 +1,46 @@
 // SPDX-License-Identifier: MIT
-#include "PrivateBus.h"
-#include "support/Test.h"
+#include "FakeServices.h"
 
 #include "platform/linux/session/LinuxSurroundings.h"
 
-#include <QDBusVirtualObject>
-
 namespace {
 
-const QString Properties = u"org.freedesktop.DBus.Properties"_s;
-
 /// Any service with properties, for all of its objects.
-class Service : public QDBusVirtualObject
+class Service : public FakeService
 {
 public:
-    Service(const QDBusConnection &bus, const char *name)
-        : m_bus(bus), m_name(QString::fromLatin1(name))
-    {
-        m_bus.registerVirtualObject(u"/"_s, this, QDBusConnection::SubPath);
-        m_bus.registerService(m_name);
-    }
-
-    ~Service() override { m_bus.unregisterService(m_name); }
+    Service(const QDBusConnection &connection, const char *name)
+        : FakeService(connection, name, [this](const QDBusMessage &call) { return answer(call); })
+    { }
 
     /// Sets a property of "path interface" and tells of it.
     void set(const char *place, const char *key, const QVariant &value)
     {
         const QString where = QString::fromLatin1(place);
-        m_values[where].insert(QString::fromLatin1(key), value);
-        QDBusMessage signal = QDBusMessage::createSignal(where.section(u' ', 0, 0), Properties,
-                                                         u"PropertiesChanged"_s);
-        signal << where.section(u' ', 1) << QVariantMap{{QString::fromLatin1(key), value}}
-               << QStringList();
-        m_bus.send(signal);
-        PrivateBus::flush(m_bus);
+        const QVariantMap change{{QLatin1String(key), value}};
+        m_values[where].insert(change);
+        tell(where.section(u' ', 0, 0) + u" org.freedesktop.DBus.Properties"_s, "PropertiesChanged",
+             {where.section(u' ', 1), change, QStringList()});
+        PrivateBus::flush(bus);
     }
-
-    void emitActive(const char *path, bool active)
-    {
-        QDBusMessage signal =
-            QDBusMessage::createSignal(QString::fromLatin1(path), m_name, u"ActiveChanged"_s);
-        m_bus.send(signal << active);
-    }
-
-    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
-    {
-        QVariant answer = true; // GetActive
-        if (message.member() == u"GetAll")
-            answer = m_values[message.path() + u' ' + message.arguments().value(0).toString()];
-        else if (message.member() == u"GetSession")
-            answer = QVariant::fromValue(QDBusObjectPath(u"/session/_32"_s));
-        else if (message.member() == u"GetStatus")
-            answer = QVariantMap{{u"metered"_s, true}};
-        return connection.send(message.createReply(answer));
-    }
-
-    QString introspect(const QString &) const override { return {}; }
 
 private:
-    QDBusConnection m_bus;
-    QString m_name;
+    QVariant answer(const QDBusMessage &call) const
+    {
+        if (call.member() == u"GetAll")
+            return m_values[call.path() + u' ' + call.arguments().value(0).toString()];
+        if (call.member() == u"GetSession")
+            return QVariant::fromValue(QDBusObjectPath(u"/session/_32"_s));
+        if (call.member() == u"GetStatus")
+            return QVariantMap{{u"metered"_s, true}};
+        return true; // GetActive
+    }
+
     QMap<QString, QVariantMap> m_values;
 };
 
-class SurroundingsTest : public ::testing::Test
+struct SurroundingsTest : ::testing::Test
 {
-protected:
     SurroundingsTest()
     {
         surroundings.onChanged = [this] { ++changes; };
@@ -135,10 +110,11 @@ TEST_F(SurroundingsTest, followsLockAndFullScreen)
     EXPECT_TRUE(becomes({}));
     {
         Service saver(session.connection(), "org.gnome.ScreenSaver");
+        const QString place = u"/org/gnome/ScreenSaver org.gnome.ScreenSaver"_s;
         EXPECT_TRUE(becomes({.locked = true})) << "was blanked before";
-        saver.emitActive("/org/gnome/ScreenSaver", false);
+        saver.tell(place, "ActiveChanged", {false});
         EXPECT_TRUE(becomes({}));
-        saver.emitActive("/org/gnome/ScreenSaver", true);
+        saver.tell(place, "ActiveChanged", {true});
         EXPECT_TRUE(becomes({.locked = true}));
     }
     EXPECT_TRUE(becomes({}));

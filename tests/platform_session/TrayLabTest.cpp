@@ -11,9 +11,8 @@
 
 namespace {
 
-class TrayLab : public ::testing::Test
+struct TrayLab : ::testing::Test
 {
-protected:
     TrayLab()
     {
         tray.onMenuNeeded = [this] {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PrivateBus.h"
 #include "support/FakeMainLoop.h"
-#include "support/Test.h"
 
 #include "platform/linux/session/QtTray.h"
 

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FakeServices.h"
-#include "PrivateBus.h"
-#include "support/Test.h"
+#include "support/UrlRecorder.h"
 
 #include "platform/linux/session/LinuxWorkspace.h"
-
-#include <QDesktopServices>
 
 namespace {
 
@@ -14,18 +11,21 @@ TEST(Workspace, showsAFileInTheFileManagerOrElseItsFolder)
     const QString path = QString::fromUtf8("/p q/\xC3\xBC 100%41 #\"'.jpg");
     PrivateBus bus;
     LinuxWorkspace workspace(bus.connection());
-    FakeOpener opener;
-    QDesktopServices::setUrlHandler(u"file"_s, &opener, "open");
+    UrlRecorder opener({u"file"_s});
     workspace.revealInFileManager(path);
     MORAVEL_WAIT(!opener.opened.isEmpty());
-    EXPECT_EQ(opener.opened, QList<QUrl>{QUrl::fromLocalFile(u"/p q"_s)});
+    EXPECT_EQ(opener.opened, QStringList{u"file:///p%20q"_s});
 
-    FakeFileManager manager(bus.connection());
+    QStringList shown;
+    const FakeService manager(bus.connection(), "org.freedesktop.FileManager1",
+                              [&shown](const QDBusMessage &call) {
+                                  shown += call.arguments().value(0).toStringList();
+                                  return QVariant();
+                              });
     workspace.revealInFileManager(path);
-    MORAVEL_WAIT(!manager.shown.isEmpty());
-    EXPECT_EQ(manager.shown, QStringList{u"file:///p%20q/%C3%BC%20100%2541%20%23%22'.jpg"_s});
+    MORAVEL_WAIT(!shown.isEmpty());
+    EXPECT_EQ(shown, QStringList{u"file:///p%20q/%C3%BC%20100%2541%20%23%22'.jpg"_s});
     EXPECT_EQ(opener.opened.size(), 1);
-    QDesktopServices::unsetUrlHandler(u"file"_s);
 }
 
 TEST(Workspace, tellsWhatTheSettingsScriptSays)

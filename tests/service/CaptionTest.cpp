@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
-#include "support/Test.h"
 
 namespace {
 
@@ -28,9 +27,8 @@ struct Window : LargePicPort
     QString calls;
 };
 
-class CaptionLookUp : public ::testing::Test
+struct CaptionLookUp : ::testing::Test
 {
-protected:
     CaptionLookUp()
     {
         world.ports.reloadDeletedPic = [this](ThumbView &) { ++restored; };
@@ -57,13 +55,7 @@ TEST_F(CaptionLookUp, TakesWhatTheServiceSays)
 {
     const QString before = cell.captionString();
 
-    const struct
-    {
-        FakeHttp::Answer answer;
-        QString label;
-        QString info;
-        QString storedInfo;
-    } rows[] = {
+    const Table<FakeHttp::Answer, QString, QString, QString> rows{
         {{{}, 500}, before, u"NEW"_s, u"Info A-7-4-2011"_s},
         {{"\xff\xfe\nx"}, before, u"NEW"_s, u"Info A-7-4-2011"_s},
         {{" NEW_CAPTION\nText  of\r it \nmore "},
@@ -73,8 +65,8 @@ TEST_F(CaptionLookUp, TakesWhatTheServiceSays)
         {{"One line"}, u"One line"_s, u"NEW"_s, u"Text of it "_s},
     };
 
-    for (const auto &row : rows) {
-        world.file = [&row](const QString &) { return row.answer; };
+    for (const auto &[answer, label, info, storedInfo] : rows) {
+        world.file = [&answer = answer](const QString &) { return answer; };
         window.calls.clear();
         refresh().implementRefreshCaption(cell);
         refresh().implementRefreshCaption(cell); // once more while it looks: nothing
@@ -86,9 +78,9 @@ TEST_F(CaptionLookUp, TakesWhatTheServiceSays)
         EXPECT_EQ(world.http.requests.value(0).url.toString(),
                   u"http://service/potd/defs/moravel.irev?option=captionPlusText&source=A"
                   "&date=7/4/2011&refresh=true"_s);
-        EXPECT_EQ(cell.captionField(), row.label);
-        EXPECT_EQ(cell.infoString(), row.info);
-        EXPECT_EQ(world.lines().value(0).section(u'\t', 6), row.storedInfo);
+        EXPECT_EQ(cell.captionField(), label);
+        EXPECT_EQ(cell.infoString(), info);
+        EXPECT_EQ(world.lines().value(0).section(u'\t', 6), storedInfo);
         EXPECT_EQ(window.calls, u"ls"_s);
         EXPECT_EQ(world.http.requests.size(), 1);
         world.http.requests.clear();

@@ -39,12 +39,7 @@ TEST(SufficientData, rules)
 
 TEST(PictureLink, fullSizeUnlessTooHeavy)
 {
-    const struct
-    {
-        const char *values;
-        const char *full;
-        const char *chosen;
-    } cases[] = {
+    const Table<const char *, const char *, const char *> cases{
         {"4000,3000,5.2", "http://full", "normal"},
         {"4000,3000,2.5", "http://full", "http://full"},
         {"4000,3000,3.0", "http://full", "http://full"},
@@ -56,12 +51,11 @@ TEST(PictureLink, fullSizeUnlessTooHeavy)
         {"1,2, 3.1 ,9", "http://full", "normal"},
     };
 
-    for (const auto &c : cases)
-        EXPECT_EQ(
-            chosenPictureLink({u"p"_s, u"c"_s, u"t"_s, u"normal"_s, QString::fromLatin1(c.full),
-                               QString::fromLatin1(c.values), u"i"_s}),
-            QString::fromLatin1(c.chosen))
-            << c.values;
+    for (const auto &[values, full, chosen] : cases)
+        EXPECT_EQ(chosenPictureLink({u"p"_s, u"c"_s, u"t"_s, u"normal"_s, QLatin1String(full),
+                                     QLatin1String(values), u"i"_s}),
+                  QLatin1String(chosen))
+            << values;
 }
 
 TEST(InfoText, pairsOfSpacesGo)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "World.h"
-#include "support/Test.h"
 
 namespace {
 
-class NewsTest : public ::testing::Test
+struct NewsTest : ::testing::Test
 {
-protected:
     NewsTest()
     {
         w.http.answer = [this](const HttpRequest &) { return answer; };
@@ -52,7 +50,7 @@ TEST_F(NewsTest, unreadNewsShowTheButtonUntilTheyAreRead)
     EXPECT_EQ(sheets, (QList<NewsSheet>{{u"Hello"_s, QString::fromUtf8("All ü well.")}}));
     EXPECT_FALSE(load({"Hello\nAll \xC3\xBC well.\n"}));
     for (const FakeHttp::Answer &bad :
-         {FakeHttp::Answer{{}, 500}, {{}, 200, -2, u"down"_s}, {"\xFF\xFE"}}) {
+         {FakeHttp::Answer{{}, 500}, {{}, 200, u"down"_s}, {"\xFF\xFE"}}) {
         EXPECT_TRUE(load(bad));
         EXPECT_EQ(show(), "Hello\nAll \xC3\xBC well."); // so that these stay read
         EXPECT_EQ(sheets.last(), NewsSheet());

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The road of a day's pictures: passes, queue, records, thumbnails and downloads together.
 #include "World.h"
-#include "support/Test.h"
 
 namespace {
 
@@ -165,21 +164,15 @@ TEST(PassAlone, movesOnAtMidnightUnlessTheUserChoseADate)
 
 TEST(PassAlone, stepsBackAWeek)
 {
-    const struct
-    {
-        QTime time;
-        int lastDay; // of June and July 2011, as days before the 4th of July
-    } cases[] = {{QTime(9, 30), 6}, {QTime(0, 0), 7}};
-
-    for (const auto &c : cases) {
-        World w(QDateTime(QDate(2011, 7, 4), c.time));
+    for (const auto &[time, lastDay] : Table<QTime, int>{{QTime(9, 30), 6}, {QTime(0, 0), 7}}) {
+        World w(QDateTime(QDate(2011, 7, 4), time));
         w.addSources({Three[0]});
         w.data = [](const QString &, const QString &) {
             return FakeHttp::Answer{"Error: nothing"};
         };
         w.startPass(30);
         QStringList wanted;
-        for (int back = 0; back <= c.lastDay; ++back)
+        for (int back = 0; back <= lastDay; ++back)
             wanted.append(body(
                 Three[0], QLocale::c().toString(QDate(2011, 7, 4).addDays(-back), u"M/d/yyyy"_s)));
         EXPECT_EQ(w.http.posts(), wanted);
@@ -208,7 +201,7 @@ TEST(PassAlone, serviceDownIsToldAndRetriedSooner)
     w.addSources({Three[0]});
     bool down = true;
     w.data = [&](const QString &source, const QString &day) {
-        return down ? FakeHttp::Answer{{}, 500, -2, u"Connection refused"_s}
+        return down ? FakeHttp::Answer{{}, 500, u"Connection refused"_s}
                     : FakeHttp::Answer{World::goodAnswer(source, day)};
     };
     w.startPass(30);
@@ -307,7 +300,7 @@ TEST(Downloads, nothingHalfAndNothingStrange)
         {"http://pic/x.jpg", {"IMG"}, "x.jpg"}, {"http://pic/view", {"IMG"}, "view.jpg"},
         {"http://pic/x.JPG", {"IMG"}, "x.JPG"}, {"http://one/http://pic/y.png", {"IMG"}, "y.png"},
         {"http://pic/x.html", {"IMG"}, ""},     {"http://pic/x.jpg", {"<html>"}, ""},
-        {"http://pic/x.jpg", {"IMG", 404}, ""}, {"http://pic/x.jpg", {{}, 200, -2, u"cut"_s}, ""},
+        {"http://pic/x.jpg", {"IMG", 404}, ""}, {"http://pic/x.jpg", {{}, 200, u"cut"_s}, ""},
         {"http://pic/%2e%2e", {"IMG"}, ""},     {"http://pic/", {"IMG"}, ""},
         {"file:///etc/x.jpg", {"IMG"}, ""},
     };

@@ -16,31 +16,24 @@ TEST(BugReport, theWholeText)
     report.version = u"1.2.3"_s;
     report.system = u"Debian %1 (bookworm)"_s;
     report.location = u"/usr/bin/moravel"_s;
-    report.screens = {{{1440, 900}, true}};
+    report.screens = {{{1440, 900}, true}, {{1280, 1024}, false}, {{}, false}};
+    report.pictures = {u"A - July 4\n\t1\n\t2\n\t3\n"_s, u"B"_s};
     report.desktopUrl = u"/p/a%20b.jpg"_s;
     report.desktopPicture = u"Desk - July 3\n\tt\n\tp\n\tq\n"_s;
     report.rotateFrequency = 60;
     report.desktopSize = u"auto"_s;
-    const QString head =
+    const QString text =
         u"Bug description:\n\nPlease type a description of the bug or feature request and if "
         "appropriate, attach a screen shot to this email.\n\n\n\nSystem:\n\n"
         "Date:\t2011-07-04 09:30:00 +0200\nMoravel:\tVersion 1.2.3\n"
         "Mac OS:\tDebian %1 (bookworm)\nLocation:\t/usr/bin/moravel\nScreens:\n"
-        "\t1440 x 900 (main)\n"_s;
-    const QString tail = u"\nDesktop:\n\n/p/a%20b.jpg\nDesk - July 3\n\tt\n\tp\n\tq\n\n"
-                         "\nPrefs:\n\n\tRotate interval:\t60\n\tDesktop sizing:\tauto\n"_s;
-    EXPECT_EQ(bugReportText(report).toStdString(),
-              (head + u"\n\nPictures:\n\n"_s + tail).toStdString());
-
-    report.screens.append({{1280, 1024}, false});
-    report.screens.append({{}, false});
-    report.pictures = {u"A - July 4\n\t1\n\t2\n\t3\n"_s, u"B"_s};
-    EXPECT_EQ(bugReportText(report).toStdString(),
-              (head
-               + u"\t1280 x 1024\n\t0 x 0\n\n\nPictures:\n\nA - July 4\n\t1\n\t2\n"
-                 "\t3\n\nB\n"_s
-               + tail)
-                  .toStdString());
+        "\t1440 x 900 (main)\n\t1280 x 1024\n\t0 x 0\n\n\nPictures:\n\nA - July "
+        "4\n\t1\n\t2\n\t3\n\nB\n"
+        "\nDesktop:\n\n/p/a%20b.jpg\nDesk - July 3\n\tt\n\tp\n\tq\n\n"
+        "\nPrefs:\n\n\tRotate interval:\t60\n\tDesktop sizing:\tauto\n"_s;
+    EXPECT_EQ(bugReportText(report).toStdString(), text.toStdString());
+    report.pictures.clear();
+    EXPECT_TRUE(bugReportText(report).contains("\n\nPictures:\n\n\nDesktop:"_L1));
 }
 
 TEST(BugReport, aLongTextGoesToTheClipboardToo)

@@ -32,9 +32,8 @@ QString arrived(const QString &url)
     return QString::fromUtf8((line.startsWith('?') ? "mailto:" + line : line).trimmed());
 }
 
-class SharingTest : public ::testing::Test
+struct SharingTest : ::testing::Test
 {
-protected:
     SharingTest()
     {
         cell.showSource(u"Sea & Sky"_s, u"Sea"_s);

@@ -7,10 +7,10 @@
 #include "server/sources/sky/astro/PlanetPositions.h"
 #include "server/sources/sky/astro/SunPosition.h"
 #include "server/sources/sky/astro/Time.h"
+#include "support/Test.h"
 
-#include <gtest/gtest.h>
+using namespace moravel::server::sky;
 
-namespace moravel::server::sky {
 namespace {
 
 double instant(int year, int month, int day, double hour)
@@ -56,12 +56,7 @@ TEST(MoonTheory, knowsNearAndFar)
 
 TEST(MoonPhases, fallOnTheKnownInstants)
 {
-    const struct
-    {
-        LunarPhase phase;
-        int year, month, day;
-        double hour;
-    } known[] = {
+    const Table<LunarPhase, int, int, int, double> known{
         {LunarPhase::Full, 2000, 1, 21, 4 + 40 / 60.0}, // eclipses all
         {LunarPhase::New, 2017, 8, 21, 18.5},
         {LunarPhase::Full, 2018, 7, 27, 20 + 20 / 60.0},
@@ -71,25 +66,20 @@ TEST(MoonPhases, fallOnTheKnownInstants)
     };
 
     constexpr double minutes = 1 / 1440.0;
-    for (const auto &k : known) {
-        SCOPED_TRACE(k.year);
-        const double expected = instant(k.year, k.month, k.day, k.hour);
+    for (const auto &[phase, year, month, date, hour] : known) {
+        SCOPED_TRACE(year);
+        const double expected = instant(year, month, date, hour);
         for (const double away : {0.1, 3.0, 14.0, 28.0}) {
-            EXPECT_NEAR(nextPhase(expected - away, k.phase), expected, 5 * minutes);
-            EXPECT_NEAR(previousPhase(expected + away, k.phase), expected, 5 * minutes);
+            EXPECT_NEAR(nextPhase(expected - away, phase), expected, 5 * minutes);
+            EXPECT_NEAR(previousPhase(expected + away, phase), expected, 5 * minutes);
         }
-        EXPECT_GT(nextPhase(expected + 0.1, k.phase), expected + 29);
+        EXPECT_GT(nextPhase(expected + 0.1, phase), expected + 29);
     }
 }
 
 TEST(PlanetTheory, putsPlanetsInLineAtTheKnownInstants)
 {
-    const struct
-    {
-        Planet planet;
-        int year, month, day;
-        double hour;
-    } inLineWithEarth[] = {
+    const Table<Planet, int, int, int, double> inLineWithEarth{
         {Planet::Venus, 2012, 6, 6, 1.5}, // transit
         {Planet::Mercury, 2019, 11, 11, 15.3}, // transit
         {Planet::Mars, 2022, 12, 8, 5.7},      {Planet::Mars, 2025, 1, 16, 2.6},
@@ -97,11 +87,12 @@ TEST(PlanetTheory, putsPlanetsInLineAtTheKnownInstants)
         {Planet::Neptune, 2025, 9, 23, 12.9},  {Planet::Uranus, 2025, 11, 21, 12.4},
     };
 
-    for (const auto &k : inLineWithEarth) {
-        SCOPED_TRACE(k.year * 10 + static_cast<int>(k.planet));
-        const double jd = instant(k.year, k.month, k.day, k.hour);
-        const double planet = longitudeOf(planetPlace(k.planet, jd));
-        EXPECT_LT(apart(planet, longitudeOf(planetPlace(Planet::Earth, jd))), 0.15);
+    for (const auto &[planet, year, month, date, hour] : inLineWithEarth) {
+        SCOPED_TRACE(year * 10 + static_cast<int>(planet));
+        const double jd = instant(year, month, date, hour);
+        EXPECT_LT(apart(longitudeOf(planetPlace(planet, jd)),
+                        longitudeOf(planetPlace(Planet::Earth, jd))),
+                  0.15);
     }
 }
 
@@ -151,4 +142,3 @@ TEST(Events, happenOnOneDayOnly)
 }
 
 } // namespace
-} // namespace moravel::server::sky

@@ -2,7 +2,6 @@
 #include "store/Collection.h"
 
 #include "StoreWorld.h"
-#include "support/Test.h"
 
 #include "store/Folders.h"
 #include "store/NameList.h"
@@ -60,21 +59,20 @@ TEST(Collection, letsTheOldestGoThatCanComeBack)
     const QString a1 = u"a1.jpg"_s, a2 = u"a2.jpg"_s;
     const QString view = u"view.jpg"_s;
 
-    const struct
-    {
-        QStringList staying;
-        qint64 limit;
-        QStringList going;
-    } cases[] = {
-        {{}, 0, {}},           {{}, 700, {}},           {{}, 699, {view}},
-        {{}, 500, {view, a1}}, {{}, 1, {view, a1, a2}}, // the rest is not to be had again
-        {{view}, 600, {a1}},   {{view, a1, a2}, 1, {}},
+    const Table<QStringList, qint64, QStringList> cases{
+        {QStringList(), 0, {}},
+        {QStringList(), 700, {}},
+        {QStringList(), 699, {view}},
+        {QStringList(), 500, {view, a1}},
+        {QStringList(), 1, {view, a1, a2}}, // the rest is not to be had again
+        {{view}, 600, {a1}},
+        {{view, a1, a2}, 1, {}},
     };
 
-    for (const auto &c : cases) {
+    for (const auto &[staying, limit, going] : cases) {
         CollectionFacts known = facts();
-        known.staying = {c.staying.begin(), c.staying.end()};
-        EXPECT_EQ(names(picturesToLetGo(collectionOf(known), c.limit)), c.going) << c.limit;
+        known.staying = {staying.begin(), staying.end()};
+        EXPECT_EQ(names(picturesToLetGo(collectionOf(known), limit)), going) << limit;
     }
 }
 

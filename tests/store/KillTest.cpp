@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Kills a process that stores records, at random moments, and looks at what it leaves.
 #include "StoreWorld.h"
-#include "support/Test.h"
-
-#include <QTemporaryDir>
 
 #include <chrono>
 #include <csignal>

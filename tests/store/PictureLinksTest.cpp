@@ -2,7 +2,6 @@
 #include "store/PictureLinks.h"
 
 #include "StoreWorld.h"
-#include "support/Test.h"
 
 TEST(PictureLinksTest, cutsALinkToItsSecondDomain)
 {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
-#include "support/Test.h"
 
 namespace {
 

@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
-#include "support/Test.h"
-
-#include <functional>
 
 namespace {
 

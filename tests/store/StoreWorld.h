@@ -2,7 +2,7 @@
 #pragma once
 
 #include "support/FakePlatform.h"
-#include "support/TempHome.h"
+#include "support/Test.h"
 
 #include "base/Dates.h"
 #include "platform/linux/PosixFiles.h"
@@ -18,8 +18,7 @@ class StoreFiles : public PosixFiles
 {
 public:
     explicit StoreFiles(const QString &home)
-        : folders{home + QStringLiteral("/Pictures"), home + QStringLiteral("/share")}
-    { }
+        : folders{home + u"/Pictures"_s, home + u"/share"_s} { }
 
     StandardFolders standardFolders() const override { return folders; }
 
@@ -52,7 +51,7 @@ struct Store
 
     StoreFiles files;
     FakeAlerts alerts;
-    Dates dates{QStringLiteral("en_US")};
+    Dates dates{u"en_US"_s};
     QMap<QString, QString> sourceNames;
     Folders folders{files, alerts};
     LegacyCaptions legacy{folders, files, dates, sourceNames};
@@ -65,25 +64,19 @@ struct StoreWorld : Store
 {
     StoreWorld() : StoreWorld(std::make_unique<TempHome>()) { }
 
-    QString dataPath() const { return home->path(QStringLiteral("share/Moravel/Moravel2.txt")); }
+    QString dataPath() const { return home->path(u"share/Moravel/Moravel2.txt"_s); }
 
     QByteArray data() const { return TempHome::read(dataPath()); }
 
-    void setData(const QByteArray &bytes)
-    {
-        home->write(QStringLiteral("share/Moravel/Moravel2.txt"), bytes);
-    }
+    void setData(const QByteArray &bytes) { home->write(u"share/Moravel/Moravel2.txt"_s, bytes); }
 
-    QString legacyPath() const
-    {
-        return home->path(QStringLiteral("Pictures/Moravel/Moravel-captions.txt"));
-    }
+    QString legacyPath() const { return home->path(u"Pictures/Moravel/Moravel-captions.txt"_s); }
 
     QByteArray legacyData() const { return TempHome::read(legacyPath()); }
 
     void setLegacyData(const QByteArray &bytes)
     {
-        home->write(QStringLiteral("Pictures/Moravel/Moravel-captions.txt"), bytes);
+        home->write(u"Pictures/Moravel/Moravel-captions.txt"_s, bytes);
     }
 
     /// What was alerted since the last call, as "title|text".

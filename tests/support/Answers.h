@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
 #include <deque>
 #include <functional>
+#include <memory>
 
 namespace moravel::testing {
 
@@ -27,6 +30,21 @@ protected:
 
 private:
     std::deque<std::function<void()>> m_waiting;
+};
+
+/// A handle that calls back when it goes.
+template <typename Handle>
+class AtEnd : public Handle
+{
+public:
+    explicit AtEnd(std::function<void()> end) : m_end(std::move(end)) { }
+
+    ~AtEnd() override { m_end(); }
+
+    Q_DISABLE_COPY_MOVE(AtEnd)
+
+private:
+    std::function<void()> m_end;
 };
 
 } // namespace moravel::testing

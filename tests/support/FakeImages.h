@@ -27,16 +27,10 @@ public:
     DecodingHandle decode(const QString &path, QSize box,
                           std::function<void(DecodedPicture)> done) override
     {
-        struct Handle : Decoding
-        {
-            std::shared_ptr<int> alive = std::make_shared<int>();
-        };
-
-        auto handle = std::make_unique<Handle>();
         ++decodings;
-        const std::weak_ptr<int> alive = handle->alive;
-        later([this, done, box, alive, ok = isPicture(path)] {
-            if (alive.expired())
+        const auto cancelled = std::make_shared<bool>();
+        later([this, done, box, cancelled, ok = isPicture(path)] {
+            if (*cancelled)
                 return;
             const bool large =
                 pictureSize.width() > box.width() || pictureSize.height() > box.height();
@@ -45,7 +39,7 @@ public:
             image.fill(Qt::darkCyan);
             done(ok ? DecodedPicture{image, pictureSize} : DecodedPicture());
         });
-        return handle;
+        return std::make_unique<AtEnd<Decoding>>([cancelled] { *cancelled = true; });
     }
 
     void check(const QString &path, std::function<void(QSize)> done) override

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/Answers.h"
+
 #include "platform/Thumbnails.h"
 
 #include <QStringList>
@@ -18,7 +20,9 @@ public:
                              std::function<void(const Thumbnail &)> done) override
     {
         m_waiting.push_back({++m_next, path, box, std::move(done)});
-        return std::make_unique<Call>(*this, m_next);
+        return std::make_unique<AtEnd<ThumbnailCall>>([this, number = m_next] {
+            m_waiting.remove_if([number](const Job &job) { return job.number == number; });
+        });
     }
 
     QStringList waiting() const
@@ -49,20 +53,6 @@ private:
         QString path;
         QSize box;
         std::function<void(const Thumbnail &)> done;
-    };
-
-    struct Call : ThumbnailCall
-    {
-        Call(FakeThumbnails &all, int n) : thumbnails(all), number(n) { }
-
-        ~Call() override
-        {
-            thumbnails.m_waiting.remove_if([this](const Job &job) { return job.number == number; });
-        }
-
-        Q_DISABLE_COPY_MOVE(Call)
-        FakeThumbnails &thumbnails;
-        int number;
     };
 
     std::list<Job> m_waiting;

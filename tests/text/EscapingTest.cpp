@@ -74,7 +74,8 @@ TEST(Escaping, UnescapingOfAnyTextStaysAsItIs)
 {
     const QString alphabet = u"&|&|&#|#|x|X|;|;|0|6|a|A| |lt|t|amp|160|65|53|nbsp|+|-|\t|\u00a0|"
                              "\u0000|\u0661|thetasym|\u2029|\v"_s;
-    EXPECT_EQ(hashOfResults(gtm_stringByUnescapingFromHTML, alphabet.split(u'|')), "4e3971f300b1a054e37ba4faf985bbca");
+    EXPECT_EQ(hashOfResults(gtm_stringByUnescapingFromHTML, alphabet.split(u'|')),
+              "4e3971f300b1a054e37ba4faf985bbca");
 }
 
 TEST(Escaping, UnescapingUndoesEscaping)

@@ -7,17 +7,10 @@
 
 namespace {
 
-struct Case
+void expectEach(QString (*operation)(QStringView), const Table<QString, QString> &cases)
 {
-    QString text;
-    QString expected;
-};
-
-template <std::size_t Count>
-void expectEach(QString (*operation)(QStringView), const Case (&cases)[Count])
-{
-    for (const Case &c : cases)
-        EXPECT_EQ(operation(c.text), c.expected) << qPrintable(c.text);
+    for (const auto &[text, expected] : cases)
+        EXPECT_EQ(operation(text), expected) << qPrintable(text);
 }
 
 TEST(HTMLText, ConvertsToPlainText)

@@ -21,7 +21,7 @@ inline QString randomText(std::mt19937 &random, const QStringList &alphabet, uns
 /// A hash of all that @p operation makes of a hundred thousand texts. Those in the tests were taken when it
 /// agreed with a slow and plain one on every text.
 inline std::string hashOfResults(const std::function<QString(const QString &)> &operation,
-                                const QStringList &alphabet)
+                                 const QStringList &alphabet)
 {
     std::mt19937 random(1);
     QCryptographicHash hash(QCryptographicHash::Md5);

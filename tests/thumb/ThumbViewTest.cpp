@@ -13,9 +13,8 @@ QImage picture(int width)
     return QImage(width, 1, QImage::Format_RGB32);
 }
 
-class CellTest : public ::testing::Test
+struct CellTest : ::testing::Test
 {
-protected:
     void SetUp() override
     {
         cells.createSpecialCells(Now);
