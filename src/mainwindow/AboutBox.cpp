@@ -61,6 +61,8 @@ QPlainTextEdit *makePage(const QString &objectName, const QString &text)
     auto *page = new QPlainTextEdit(text);
     page->setObjectName(objectName);
     page->setReadOnly(true);
+    page->setTextInteractionFlags(Qt::TextSelectableByMouse
+                                  | Qt::TextSelectableByKeyboard); // its cursor shows the focus
     page->setTabChangesFocus(true);
     page->setFrameShape(QFrame::NoFrame);
     page->document()->setDocumentMargin(10);
