@@ -231,7 +231,7 @@ void BrowserWindow::stepZoom(int steps)
 void BrowserWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange)
         setBrowserBackground();
 }
 

@@ -44,7 +44,7 @@ public:
     /// Moves the keyboard's focus from the cell that has it to a neighbour; false when there is none.
     bool moveFocus(int key);
 
-    /// Takes what it has of the desktop's colours; Qt tells windows only when they change.
+    /// Takes what it has of the desktop's colours; for the window, which hears of a change.
     void followPalette();
 
 Q_SIGNALS:

@@ -309,7 +309,7 @@ void LargePicWindow::leave()
 void LargePicWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange)
         m_picDetails->followPalette();
     if (event->type() == QEvent::WindowStateChange)
         m_splitter->widget(1)->setVisible(!isFullScreen()); // nothing but the picture

@@ -19,7 +19,7 @@ public:
     /// Shows a text as it stands.
     void showText(const QString &text);
 
-    /// Takes the colours that the desktop has now; Qt tells windows only when they change.
+    /// Takes the colours that the desktop has now; for the window, which hears of a change.
     void followPalette();
 
     QVariant loadResource(int type, const QUrl &name) override;
