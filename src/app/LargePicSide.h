@@ -46,6 +46,8 @@ public:
 
     void hideCantShow() override { m_largePic.hideCantShow(); }
 
+    void showFailure() override { m_largePic.showFailure(); }
+
     void showLookingForInfo() override { m_largePic.showLookingForInfo(); }
 
     void displayPicFile(const QString &path) override { m_largePic.displayPicFile(path); }

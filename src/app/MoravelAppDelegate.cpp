@@ -12,6 +12,8 @@ namespace moravel {
 namespace {
 
 constexpr double AskAgainSeconds = 60; // for the sources, while none is known
+const QString LargeName = QStringLiteral("large");
+const QString BrowserName = QStringLiteral("browser");
 constexpr int DoubleClick = 2; // where the cell has counted the clicks already
 
 ThumbImages thumbImages(const Images &images)
@@ -182,8 +184,8 @@ void MoravelAppDelegate::buildWindow()
 {
     m_toolTips = std::make_unique<ToolTips>(m_cells, m_preferences);
     m_window = std::make_unique<MainWindow>(m_cells, m_datePicker, *m_dateNavigation, *m_toolTips);
-    m_window->windowShouldClose = [] {
-        QCoreApplication::quit(); // also when an alert is still open
+    m_window->windowShouldClose = [this] {
+        quit(); // also when an alert is still open
         return true;
     };
     SourceGridPorts ports;
@@ -213,17 +215,33 @@ void MoravelAppDelegate::buildWindow()
     m_grid = std::make_unique<SourceGrid>(m_cells, m_preferences, m_platform.loop, *m_window,
                                           std::move(ports));
     m_share.attachWindow(*m_window, *m_grid);
-    const auto follow = [this](const char *name) {
-        return [this, name](QWidget &window) {
-            m_start.places().follow(window, QString::fromLatin1(name));
-        };
+    const auto follow = [this](const QString &name) {
+        return [this, name](QWidget &window) { m_start.places().follow(window, name); };
     };
-    largePic().ports().windowMade = follow("large");
+    largePic().ports().windowMade = follow(LargeName);
     if (m_browser)
-        m_browser->ports().windowMade = follow("browser");
+        m_browser->ports().windowMade = follow(BrowserName);
     m_disk->attachWindow(*m_window);
     m_start.attachWindow(*m_window);
     m_quiet->attachWindow(*m_window);
+}
+
+void MoravelAppDelegate::reopenWindows()
+{
+    if (!m_browser)
+        return;
+    m_start.places().reopen([this](const QString &name, const QString &file) {
+        if (name == BrowserName)
+            m_browser->browser().picBrowser();
+        else if (name == LargeName && m_platform.files.exists(file))
+            m_browser->browser().actions().showLarge(file);
+    });
+}
+
+void MoravelAppDelegate::quit()
+{
+    m_start.places().endForGood();
+    QCoreApplication::quit();
 }
 
 // Without cells there is no pass, and nothing to say of it. Where nobody looks, nobody has asked.
@@ -257,6 +275,7 @@ void MoravelAppDelegate::applicationDidFinishLaunching()
         if (m_desktop && m_preferences.rotateFrequency() > 0)
             m_desktop->management().rotation().markFirstRotationDue();
         sourcesAreKnown();
+        reopenWindows();
         if (m_desktop)
             m_desktop->management().start();
         m_service.news().loadNews([this] { m_toolTips->readTooltipOptions(); });
@@ -326,7 +345,7 @@ void MoravelAppDelegate::attachRemoteControl(RemoteControl &control)
                       .showLargePic = [this] { return m_largePic->showSomePic(); },
                       .showBrowser = m_browser ? ShowsWindow(showBrowser) : ShowsWindow(),
                       .switchOnSources = [this](const QStringList &sources) { switchOn(sources); },
-                      .quit = [] { QCoreApplication::quit(); }});
+                      .quit = [this] { quit(); }});
 }
 
 void MoravelAppDelegate::applicationShouldTerminate()

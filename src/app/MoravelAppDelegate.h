@@ -73,6 +73,8 @@ private:
     void buildQuiet();
     void buildDisk();
     void buildWindow();
+    void reopenWindows();
+    void quit();
     void startPass(double seconds);
     void logFolders();
     void sourcesAreKnown();

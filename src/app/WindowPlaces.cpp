@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/WindowPlaces.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QScreen>
 
@@ -12,9 +13,10 @@ namespace {
 
 constexpr double RestSeconds = 1;
 
-bool mayHaveMoved(QEvent::Type type)
+bool isChange(QEvent::Type type) // of its place, of being open, or of what it shows
 {
-    return type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange;
+    return type == QEvent::Move || type == QEvent::Resize || type == QEvent::WindowStateChange
+        || type == QEvent::Show || type == QEvent::WindowTitleChange;
 }
 
 constexpr QMargins Frame(8, 32, 8, 8); ///< Points that a window's frame takes at most.
@@ -37,8 +39,10 @@ void bringOntoScreen(QWidget &window)
 } // namespace
 
 WindowPlaces::WindowPlaces(Preferences &preferences, MainLoop &loop)
-    : m_preferences(preferences), m_loop(loop)
-{ }
+    : m_preferences(preferences), m_loop(loop), m_kept(preferences.readOpenWindows())
+{
+    QCoreApplication::instance()->installEventFilter(this);
+}
 
 void WindowPlaces::follow(QWidget &window, const QString &name)
 {
@@ -49,17 +53,69 @@ void WindowPlaces::follow(QWidget &window, const QString &name)
             bringOntoScreen(window);
     }
     m_windows[&window] = {name, place};
+    if (!m_main)
+        m_main = &window;
     window.installEventFilter(this);
     connect(&window, &QObject::destroyed, this, [this, &window] { m_windows.erase(&window); });
 }
 
 bool WindowPlaces::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::Hide && !event->spontaneous())
+    const bool isOfWindow = watched->isWidgetType();
+    if (!isOfWindow && event->type() == QEvent::Quit && !m_isEnding) {
+        save(); // after this the windows are closed
+        m_isEnding = true;
+    } else if (isOfWindow && event->type() == QEvent::Hide && !event->spontaneous()) {
         save();
-    else if (mayHaveMoved(event->type()))
+    } else if (isOfWindow && isChange(event->type())) {
         m_soon = m_loop.after(RestSeconds, [this] { save(); });
+        openIfSeen();
+    }
     return QObject::eventFilter(watched, event);
+}
+
+void WindowPlaces::reopen(Opens open)
+{
+    m_open = std::move(open);
+    openIfSeen();
+}
+
+void WindowPlaces::openIfSeen()
+{
+    if (!m_open || !m_main || !m_main->isVisible() || m_main->isMinimized())
+        return;
+    m_openSoon = m_loop.after(0, [this] {
+        const Opens open = std::exchange(m_open, {});
+        const QStringList windows = std::exchange(m_kept, {});
+        m_isReopened = true;
+        m_preferences.saveOpenWindows({}); // one that ends the program must not do so at each start
+        for (const QString &window : windows)
+            open(window.section(u' ', 0, 0), window.section(u' ', 1));
+    });
+}
+
+void WindowPlaces::endForGood()
+{
+    if (m_isEnding)
+        return;
+    save();
+    m_isEnding = true;
+    m_preferences.saveOpenWindows({});
+}
+
+void WindowPlaces::saveOpen()
+{
+    if (m_isEnding || !m_isReopened)
+        return;
+    QStringList now;
+    for (const auto &[window, followed] : m_windows) {
+        if (window != m_main && window->isVisible())
+            now.append((followed.name + u' ' + window->windowFilePath()).trimmed());
+    }
+    if (now == m_kept)
+        return;
+    m_kept = now;
+    m_preferences.saveOpenWindows(now);
 }
 
 void WindowPlaces::save()
@@ -73,6 +129,7 @@ void WindowPlaces::save()
         followed.kept = now;
         m_preferences.saveWindowPlace(followed.name, now);
     }
+    saveOpen();
 }
 
 } // namespace moravel

@@ -19,6 +19,7 @@ const QString FacebookKey = QStringLiteral("Facebook");
 const QString QuietKey = QStringLiteral("Quiet");
 const QString DiskLimitKey = QStringLiteral("DiskLimit");
 const QString SideBarKey = QStringLiteral("HideSideBar");
+const QString OpenKey = QStringLiteral("OpenWindows");
 const QString PlaceKey = QStringLiteral("Window-"); // and the window's name
 
 constexpr int AutoSizing =
@@ -162,6 +163,16 @@ QByteArray Preferences::readWindowPlace(const QString &window) const
 void Preferences::saveWindowPlace(const QString &window, const QByteArray &place)
 {
     m_defaults.setList(PlaceKey + window, {QString::fromLatin1(place.toBase64())});
+}
+
+QStringList Preferences::readOpenWindows() const
+{
+    return m_defaults.list(OpenKey).value_or(QStringList());
+}
+
+void Preferences::saveOpenWindows(const QStringList &windows)
+{
+    m_defaults.setList(OpenKey, windows);
 }
 
 } // namespace moravel

@@ -62,6 +62,10 @@ public:
     QByteArray readWindowPlace(const QString &window) const;
     void saveWindowPlace(const QString &window, const QByteArray &place);
 
+    /// The windows beside the main one that were open last, each as it describes itself.
+    QStringList readOpenWindows() const;
+    void saveOpenWindows(const QStringList &windows);
+
     /// Sets the mirrored interval without storing it; the one-hour hold does so for a moment.
     void setRotateFrequency(int minutes) { m_rotateFrequency = minutes; }
 

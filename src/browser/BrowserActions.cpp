@@ -91,9 +91,12 @@ void BrowserActions::finderFromBrowser()
 
 void BrowserActions::infoFromBrowser()
 {
-    const QString path = firstSelectedPath();
-    if (path.isEmpty())
-        return;
+    if (const QString path = firstSelectedPath(); !path.isEmpty())
+        showLarge(path);
+}
+
+void BrowserActions::showLarge(const QString &path)
+{
     fillBrowserCell(path);
     m_context.cells.browserThumb().setUsedAsDesktop(false);
     m_context.cells.browserThumb().showThumbLarge();

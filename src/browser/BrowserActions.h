@@ -26,6 +26,8 @@ public:
     void cellWasDoubleClickedAtIndex(int index);
     /// Opens the large picture window on the browser cell.
     void infoFromBrowser();
+    /// The same with any picture file.
+    void showLarge(const QString &path);
     void finderFromBrowser();
     void deleteFromBrowser();
     /// Asks, unless Alt is held, and deletes.

@@ -231,7 +231,7 @@ void BrowserWindow::stepZoom(int steps)
 void BrowserWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
+    if (event->type() == QEvent::PaletteChange)
         setBrowserBackground();
 }
 
@@ -251,8 +251,7 @@ bool BrowserWindow::eventFilter(QObject *watched, QEvent *event)
     case Qt::Key_Down:
     case Qt::Key_PageDown:
         m_imageBrowser->setFocus();
-        if (!m_imageBrowser->selectionModel()->hasSelection())
-            m_imageBrowser->setCurrentIndex(m_imageBrowser->currentIndex());
+        m_imageBrowser->selectCurrent();
         return true;
     default:
         return false;

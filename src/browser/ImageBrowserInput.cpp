@@ -90,10 +90,16 @@ QModelIndex ImageBrowserView::moveCursor(CursorAction action, Qt::KeyboardModifi
 void ImageBrowserView::keyPressEvent(QKeyEvent *event)
 {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isReturn && !(event->modifiers() & ~Qt::KeypadModifier))
-        Q_EMIT openWanted();
-    else
-        QAbstractItemView::keyPressEvent(event);
+    if (!isReturn || event->modifiers() & ~Qt::KeypadModifier)
+        return QAbstractItemView::keyPressEvent(event);
+    selectCurrent();
+    Q_EMIT openWanted();
+}
+
+void ImageBrowserView::selectCurrent()
+{
+    if (!selectionModel()->hasSelection())
+        setCurrentIndex(currentIndex());
 }
 
 void ImageBrowserView::keyboardSearch(const QString &text)
@@ -168,6 +174,7 @@ void ImageBrowserView::contextMenuEvent(QContextMenuEvent *event)
 {
     QPoint place = event->globalPos();
     if (event->reason() == QContextMenuEvent::Keyboard) {
+        selectCurrent();
         scrollTo(currentIndex());
         place = viewport()->mapToGlobal(visualRect(currentIndex()).center());
     }

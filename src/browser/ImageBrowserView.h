@@ -43,6 +43,8 @@ public:
 
     QList<int> selectedItems() const; ///< Ascending.
     void select(const QList<int> &ascending);
+    /// A command by key is for the item that the focus is on where none is selected.
+    void selectCurrent();
 
     QRect visualRect(const QModelIndex &index) const override;
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;

@@ -48,11 +48,10 @@ QString licences()
 
 QString credits(const AboutText &text)
 {
-    const QString sources = text.sources.isEmpty()
-        ? Texts::tr("No source is known yet: the service has not answered.")
-        : Texts::tr("The pictures belong to those who made them. They come from:")
-            + QLatin1String("\n\n") + text.sources.join(u'\n');
-    return sources + QLatin1String("\n\n")
+    if (text.sources.isEmpty())
+        return Texts::tr("No source is known yet: the service has not answered.");
+    return Texts::tr("The pictures belong to those who made them. They come from:")
+        + QLatin1String("\n\n") + text.sources.join(u'\n') + QLatin1String("\n\n")
         + Texts::tr("They were found by the service at %1.").arg(text.service);
 }
 
@@ -61,6 +60,8 @@ QPlainTextEdit *makePage(const QString &objectName, const QString &text)
     auto *page = new QPlainTextEdit(text);
     page->setObjectName(objectName);
     page->setReadOnly(true);
+    page->setTextInteractionFlags(Qt::TextSelectableByMouse
+                                  | Qt::TextSelectableByKeyboard); // its cursor shows the focus
     page->setTabChangesFocus(true);
     page->setFrameShape(QFrame::NoFrame);
     page->document()->setDocumentMargin(10);

@@ -135,7 +135,7 @@ void CellWidget::follow()
         parentWidget()->setFocus(); // else the next cell would get it
     setVisible(!m_view.isHidden());
     m_sourceField->setText(m_view.sourceField());
-    m_dateField->setText(m_view.dateField());
+    m_dateField->setText(shownDate(m_view));
     m_captionField->setText(shownCaption(m_view));
     followState();
     followToolTips();

@@ -4,8 +4,10 @@
 #include "mainwindow/Icons.h"
 
 #include <QCalendarWidget>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QStyleOptionComboBox>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -111,8 +113,27 @@ void DatePickerWidget::mousePressEvent(QMouseEvent *event)
 
 void DatePickerWidget::keyPressEvent(QKeyEvent *event)
 {
+    const bool isAltDown =
+        event->key() == Qt::Key_Down && event->modifiers().testFlag(Qt::AltModifier);
+    if (isAltDown || event->key() == Qt::Key_F4)
+        return openCalendar();
     beforeCalendar();
     QDateEdit::keyPressEvent(event);
+}
+
+// By the keys that open a combo box. Qt knows the mouse only.
+void DatePickerWidget::openCalendar()
+{
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    option.editable = true;
+    const QPointF arrow =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this)
+            .center();
+    QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    mousePressEvent(&press);
 }
 
 } // namespace moravel

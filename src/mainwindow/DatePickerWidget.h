@@ -24,6 +24,7 @@ private:
     void follow();
     void offer(QDate day);
     void beforeCalendar();
+    void openCalendar();
 
     DatePicker &m_picker;
     bool m_following = false;

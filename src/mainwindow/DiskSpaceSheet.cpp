@@ -70,6 +70,7 @@ DiskSpaceSheet::DiskSpaceSheet(QWidget *window, int gigabytes)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(tr("Disk Space"));
     m_summary->setText(tr("Looking at the pictures…"));
+    QWidget *limitRow = makeLimitRow(gigabytes); // before the buttons, as the Tab key goes
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -82,7 +83,7 @@ DiskSpaceSheet::DiskSpaceSheet(QWidget *window, int gigabytes)
     column->setSpacing(10);
     column->addWidget(m_summary);
     column->addWidget(m_shares, 1);
-    column->addWidget(makeLimitRow(gigabytes));
+    column->addWidget(limitRow);
     column->addWidget(m_consequence);
     column->addSpacing(4);
     column->addWidget(buttons);

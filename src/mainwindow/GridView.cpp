@@ -17,7 +17,7 @@ GridView::GridView(QWidget *parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setPalette(FlippedClipView::lightPalette());
+    followPalette();
     setViewport(new FlippedClipView);
     verticalScrollBar()->setSingleStep(30);
     auto *document = new QWidget;
@@ -109,12 +109,9 @@ void GridView::resizeEvent(QResizeEvent *event)
     Q_EMIT resized();
 }
 
-void GridView::changeEvent(QEvent *event)
+void GridView::followPalette()
 {
-    QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
-        setPalette(
-            FlippedClipView::lightPalette()); // the colours of what is selected are others now
+    setPalette(FlippedClipView::lightPalette());
 }
 
 const GridView::Slot *GridView::focusedSlot() const

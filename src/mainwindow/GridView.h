@@ -44,13 +44,15 @@ public:
     /// Moves the keyboard's focus from the cell that has it to a neighbour; false when there is none.
     bool moveFocus(int key);
 
+    /// Takes what it has of the desktop's colours; for the window, which hears of a change.
+    void followPalette();
+
 Q_SIGNALS:
     /// The view itself has another size; a scroll bar that comes or goes does not count.
     void resized();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
-    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -140,6 +140,7 @@ LargePicFacts LargePic::factsOf(ThumbView &cell)
 void LargePic::carryOut(const LargePicPlan &plan)
 {
     m_pic->setWindowTitle(plan.title);
+    m_pic->setWindowFilePath(m_currentLargePicPath);
     m_captionName = plan.captionName;
     m_fileSize =
         plan.picture.isEmpty() ? QString() : prettyFileSize(m_context.files.size(plan.picture));
@@ -298,6 +299,14 @@ void LargePic::hideProgress()
 {
     if (m_pic)
         m_pic->hideProgress();
+}
+
+void LargePic::showFailure()
+{
+    if (!m_pic)
+        return;
+    m_pic->showNotice(ThumbView::tr("The picture could not be loaded"));
+    showInfo(); // a window that waited has none yet
 }
 
 void LargePic::hideCantShow()

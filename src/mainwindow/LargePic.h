@@ -100,6 +100,7 @@ public:
     // Of a download to the file that the window waits for.
     void showProgress(std::optional<float> percent, const QString &text);
     void hideProgress();
+    void showFailure();
     void hideCantShow();
     void displayPicFile(const QString &path);
 

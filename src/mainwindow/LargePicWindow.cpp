@@ -252,6 +252,13 @@ void LargePicWindow::showProgress(std::optional<float> percent, const QString &t
     m_progressField->setVisible(!text.isEmpty());
 }
 
+void LargePicWindow::showNotice(const QString &text)
+{
+    m_progress->hide();
+    m_progressField->setText(text);
+    m_progressField->show();
+}
+
 void LargePicWindow::hideProgress()
 {
     m_progress->hide();
@@ -302,6 +309,8 @@ void LargePicWindow::leave()
 void LargePicWindow::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        m_picDetails->followPalette();
     if (event->type() == QEvent::WindowStateChange)
         m_splitter->widget(1)->setVisible(!isFullScreen()); // nothing but the picture
 }

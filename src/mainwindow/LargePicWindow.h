@@ -42,6 +42,8 @@ public:
     void showCantShow(bool shown);
     /// Per cent of the bytes; nothing means an unknown length, without a text.
     void showProgress(std::optional<float> percent, const QString &text);
+    /// Shows a text in place of the progress, until that is hidden.
+    void showNotice(const QString &text);
     void hideProgress();
 
     void bringToFront();

@@ -147,9 +147,12 @@ QAction *MainWindow::makeFullScreenItem()
 void MainWindow::setStartSize()
 {
     setMinimumWidth(windowWidthFor(1, grid()));
-    // Where the desktop's panel and frame leave less, the status bar would be off the screen.
-    const int fitting = screen()->availableGeometry().height() - FrameHeight;
-    resize(windowWidthFor(StartColumns, grid()), std::min(StartHeight, fitting));
+    // Where the screen has less room, the status bar and the last column would be off it.
+    const QSize room = screen()->availableSize();
+    int columns = StartColumns;
+    while (columns > 1 && windowWidthFor(columns, grid()) > room.width())
+        --columns;
+    resize(windowWidthFor(columns, grid()), std::min(StartHeight, room.height() - FrameHeight));
 }
 
 GridView &MainWindow::grid() const
@@ -180,6 +183,8 @@ void MainWindow::closeEvent(QCloseEvent *event)
 void MainWindow::changeEvent(QEvent *event)
 {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        grid().followPalette();
     if (event->type() != QEvent::WindowStateChange)
         return;
     const auto before = static_cast<QWindowStateChangeEvent *>(event)->oldState();

@@ -5,7 +5,6 @@
 #include "mainwindow/Contrast.h"
 #include "mainwindow/PicInfo.h"
 
-#include <QEvent>
 #include <QScrollBar>
 
 namespace moravel {
@@ -61,13 +60,6 @@ QVariant PicDetails::loadResource(int, const QUrl &)
 
 void PicDetails::doSetSource(const QUrl &, QTextDocument::ResourceType)
 { }
-
-void PicDetails::changeEvent(QEvent *event)
-{
-    QTextBrowser::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange)
-        followPalette();
-}
 
 void PicDetails::followPalette()
 {

@@ -19,15 +19,15 @@ public:
     /// Shows a text as it stands.
     void showText(const QString &text);
 
+    /// Takes the colours that the desktop has now; for the window, which hears of a change.
+    void followPalette();
+
     QVariant loadResource(int type, const QUrl &name) override;
 
 protected:
     void doSetSource(const QUrl &name, QTextDocument::ResourceType type) override;
-    void changeEvent(QEvent *event) override;
 
 private:
-    void followPalette();
-
     QString m_html; ///< Shown anew when the colours change.
 };
 

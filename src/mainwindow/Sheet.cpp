@@ -49,6 +49,8 @@ QTextEdit *makeText(const QString &text, QWidget *parent)
     auto *edit = new QTextEdit(parent);
     edit->setObjectName(QStringLiteral("sheetText"));
     edit->setReadOnly(true);
+    edit->setTextInteractionFlags(Qt::TextSelectableByMouse
+                                  | Qt::TextSelectableByKeyboard); // its cursor shows the focus
     edit->setTabChangesFocus(true);
     edit->setFrameShape(QFrame::NoFrame);
     edit->viewport()->setAutoFillBackground(false);

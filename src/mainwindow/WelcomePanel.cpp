@@ -47,6 +47,7 @@ public:
     CheckList()
     {
         setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus); // it follows the focus of its boxes
         setWidgetResizable(true);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);

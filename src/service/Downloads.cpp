@@ -208,6 +208,8 @@ void Downloads::downloadDidFail(const DownloadPtr &download, const QString &why)
     m_failed.insert(download->path);
     if (m_context.ports.largePic)
         m_context.ports.largePic->hideProgress();
+    if (LargePicPort *window = windowFor(*download))
+        window->showFailure();
     forget(download);
     m_context.ports.status(hintText());
 }

@@ -27,6 +27,10 @@ public:
     virtual void showProgress(std::optional<float> percent, const QString &text) = 0;
     virtual void hideProgress() = 0;
     virtual void hideCantShow() = 0;
+
+    /// Shows, in place of the progress, that the file it waits for does not come.
+    virtual void showFailure() { }
+
     /// Shows a finished file, and its size in the caption text.
     virtual void displayPicFile(const QString &path) = 0;
 };

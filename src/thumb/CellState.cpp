@@ -12,6 +12,12 @@ bool hasEnded(ThumbView::Search search)
     return search == ThumbView::Search::Failed || search == ThumbView::Search::Nothing;
 }
 
+/// The day that was asked for, in one piece: in a narrow cell it would break anywhere.
+QString unbroken(QString date)
+{
+    return date.replace(u' ', QChar::Nbsp);
+}
+
 CellState stateWithout(const ThumbView &cell)
 {
     switch (cell.search()) {
@@ -52,11 +58,11 @@ QString stateText(const ThumbView &cell)
 {
     switch (cellState(cell)) {
     case CellState::Earlier:
-        return ThumbView::tr("Nothing on %1").arg(cell.wantedDate());
+        return ThumbView::tr("Nothing on %1").arg(unbroken(cell.wantedDate()));
     case CellState::EarlierUnasked:
-        return ThumbView::tr("No answer for %1").arg(cell.wantedDate());
+        return ThumbView::tr("No answer for %1").arg(unbroken(cell.wantedDate()));
     case CellState::Nothing:
-        return ThumbView::tr("Nothing from this day to %1").arg(cell.wantedDate());
+        return ThumbView::tr("Nothing from this day to %1").arg(unbroken(cell.wantedDate()));
     case CellState::Failed:
         return ThumbView::tr("The picture service did not answer");
     case CellState::Unreadable:
@@ -72,12 +78,18 @@ QString shownCaption(const ThumbView &cell)
     return speaksOfSearch && hasEnded(cell.search()) ? QString() : cell.captionField();
 }
 
+QString shownDate(const ThumbView &cell)
+{
+    const bool failed = cellState(cell) == CellState::Failed && !cell.wantedDate().isEmpty();
+    return failed ? cell.wantedDate() : cell.dateField();
+}
+
 QString spokenText(const ThumbView &cell)
 {
     QString caption = shownCaption(cell);
     if (caption.isEmpty() && cellState(cell) == CellState::Looking)
         caption = ThumbView::lookingText();
-    QStringList parts{cell.sourceField(), stateText(cell), cell.dateField(), caption};
+    QStringList parts{cell.sourceField(), stateText(cell), shownDate(cell), caption};
     parts.removeAll(QString());
     return parts.join(QStringLiteral(", "));
 }

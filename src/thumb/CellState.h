@@ -32,6 +32,9 @@ QString stateText(const ThumbView &cell);
 /// Returns what stands below the picture: the caption, unless it speaks of a search that has ended.
 QString shownCaption(const ThumbView &cell);
 
+/// Returns the day that the cell speaks of. One that was not answered for is not the last that was tried.
+QString shownDate(const ThumbView &cell);
+
 /// Says everything in one line, for those who hear the cell.
 QString spokenText(const ThumbView &cell);
 

@@ -59,6 +59,42 @@ TEST_F(SessionTest, windowsComeBackOnTheScreens)
     }
 }
 
+TEST_F(SessionTest, whatWasOpenComesBackUnlessTheUserEndsIt)
+{
+    const struct
+    {
+        void (*end)(App &);
+        bool comesBack;
+    } cases[] = {{[](App &app) { app.run(2); }, true}, // the machine stops
+                 {[](App &) {
+                      QEvent quit(QEvent::Quit);
+                      QCoreApplication::sendEvent(QCoreApplication::instance(), &quit);
+                  },
+                  true},
+                 {[](App &app) { app.delegate.window().close(); }, false}};
+
+    const auto isBrowserOpen = [](const App &app) {
+        Browser &browser = app.delegate.browser()->browser();
+        return browser.isWindowBuilt() && browser.browserWindow().isVisible();
+    };
+
+    for (const auto &c : cases) {
+        App before(home, all());
+        before.run(20);
+        before.delegate.cells().at(1).showThumbLarge();
+        before.delegate.browser()->browser().picBrowser();
+        c.end(before);
+        App app(home, all(true), true);
+        app.hasTray = true;
+        app.run(20);
+        EXPECT_FALSE(isBrowserOpen(app) || app.delegate.largePic().isVisible());
+        app.delegate.window().show();
+        app.run(0.5);
+        EXPECT_EQ(isBrowserOpen(app), c.comesBack);
+        EXPECT_EQ(app.delegate.largePic().currentLargePicPath().endsWith(u"/B.jpg"), c.comesBack);
+    }
+}
+
 TEST_F(SessionTest, staysQuietAndMakesUp)
 {
     App app(home, allSources(true), true);

@@ -2,8 +2,10 @@
 #include "LargePicFixture.h"
 
 #include "mainwindow/CaptionLabel.h"
+#include "mainwindow/Contrast.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
@@ -66,6 +68,16 @@ TEST_F(LargePicTest, showsSizeTextAndInfo)
     EXPECT_EQ(caption(), u"Caption (4000 x 3000 pixels, 2.0 KB)"_s);
 }
 
+TEST_F(LargePicTest, itsTextIsReadableAfterTheDesktopTurnsDark)
+{
+    open(0);
+    const QPalette usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x36, 0x36, 0x3a), QColor(0x2b, 0x2b, 0x2e)));
+    const QPalette shown = f.large.pic()->picDetails().palette();
+    EXPECT_GE(contrast(shown.color(QPalette::Text), shown.color(QPalette::Window)), TextContrast);
+    QApplication::setPalette(usual);
+}
+
 TEST_F(LargePicTest, waitsForADownload)
 {
     open(1);
@@ -78,6 +90,9 @@ TEST_F(LargePicTest, waitsForADownload)
     EXPECT_EQ(f.find<QProgressBar>("progress")->value(), 666);
     f.large.showProgress(std::nullopt, {});
     EXPECT_FALSE(f.find("progressField")->isVisible());
+    f.large.showFailure();
+    EXPECT_FALSE(f.find("progress")->isVisible());
+    EXPECT_TRUE(f.find("progressField")->isVisible());
     f.large.hideProgress();
 
     f.downloads.insert(path);

@@ -99,11 +99,12 @@ TEST_F(CellTest, tellsHowItsSearchEnded)
         {None, "", {}, today, CellState::Waiting, ""},
         {Looking, "http://x", picture(7), today, CellState::Looking, ""},
         {None, "http://x", picture(7), today, CellState::Shown, ""},
-        {None, "http://x", picture(7), before, CellState::Earlier, "Nothing on July 4, 2011"},
+        {None, "http://x", picture(7), before, CellState::Earlier,
+         "Nothing on July\u00a04,\u00a02011"},
         {Failed, "http://x", picture(7), before, CellState::EarlierUnasked,
-         "No answer for July 4, 2011"},
+         "No answer for July\u00a04,\u00a02011"},
         {Nothing, "", picture(1), before, CellState::Nothing,
-         "Nothing from this day to July 4, 2011"},
+         "Nothing from this day to July\u00a04,\u00a02011"},
         {Failed, "", {}, before, CellState::Failed, "The picture service did not answer"},
         {None, "http://x", {}, today, CellState::Unreadable, "The picture could not be loaded"},
         {Failed, "DELETED", picture(2), today, CellState::Deleted, ""},
@@ -117,8 +118,9 @@ TEST_F(CellTest, tellsHowItsSearchEnded)
         cell.showThumbImage(isBlank ? cells.images().blank : image, QString::fromLatin1(url));
         cell.setCaptionField(ThumbView::lookingText());
         EXPECT_EQ(cellState(cell), state) << text;
-        EXPECT_EQ(stateText(cell), QString::fromLatin1(text));
+        EXPECT_EQ(stateText(cell), QString::fromUtf8(text));
         EXPECT_EQ(shownCaption(cell).isEmpty(), search == Failed || search == Nothing);
+        EXPECT_EQ(shownDate(cell), state == CellState::Failed ? today : date);
     }
 }
 
