@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
-// browser_bench [all|stay]: opens the browser on the collection below HOME (made by make_collection; XDG_DATA_HOME
-// is HOME/share) in the whole application and tells how long things take, as the user feels them: from the
-// command or the key to the painted window. With "all" it also scrolls until every picture has been shown; with
-// "stay" it only opens the browser, for scripts/bench-browser, which measures it beside other programs.
+// browser_bench [all|stay|delete COUNT]: opens the browser on the collection below HOME (made by make_collection;
+// XDG_DATA_HOME is HOME/share) in the whole application and tells how long things take, as the user feels them:
+// from the command or the key to the painted window. With "all" it also scrolls until every picture has been
+// shown; with "stay" it only opens the browser, for scripts/bench-browser, which measures it beside other
+// programs; with "delete" it deletes pictures for good: for a copy (cp -al) of a collection.
 #include "bench/ProcessMemory.h"
 #include "bench/app/RealPlatform.h"
 
@@ -16,6 +17,8 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QThreadPool>
 #include <QTimer>
@@ -23,12 +26,23 @@
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
+#include <ctime>
 #include <functional>
+#include <numeric>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using namespace moravel;
+
+/// Processor time of this thread, which other programs do not lengthen.
+double processorMilliseconds()
+{
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
 
 double milliseconds(const QElapsedTimer &clock)
 {
@@ -71,6 +85,37 @@ private:
     }
 
     ImageBrowserView &m_view;
+};
+
+/// Beats in the main loop and notes the longest time between two beats.
+class Heart
+{
+public:
+    Heart()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { beat(); });
+        m_clock.start();
+        m_timer.start(2);
+    }
+
+    /// Returns the longest gap since the last call.
+    double takeGap()
+    {
+        beat();
+        return std::exchange(m_gap, 0);
+    }
+
+private:
+    void beat()
+    {
+        m_gap = std::max(m_gap, milliseconds(m_clock));
+        m_clock.start();
+    }
+
+    QElapsedTimer m_clock;
+    double m_gap = 0;
+    QTimer m_timer;
 };
 
 struct Figures
@@ -120,17 +165,21 @@ void type(BrowserWindow &window, ImageBrowserView &view)
 void scroll(ImageBrowserView &view, const char *what, int step, int frames)
 {
     Figures figures;
+    Figures processor;
     QScrollBar *bar = view.verticalScrollBar();
     bar->setValue(0);
     for (int i = 0; i < frames; ++i) {
+        const double before = processorMilliseconds();
         QElapsedTimer clock;
         clock.start();
         bar->setValue(bar->value() + step);
         QCoreApplication::processEvents();
         figures.values.push_back(milliseconds(clock));
+        processor.values.push_back(processorMilliseconds() - before);
         rest(std::max(0, 16 - static_cast<int>(milliseconds(clock))));
     }
     figures.print(what);
+    processor.print("  of it processor time");
 }
 
 void showAll(ImageBrowserView &view)
@@ -146,21 +195,46 @@ void showAll(ImageBrowserView &view)
     std::printf("all pictures shown after      %.0f ms\n", milliseconds(clock));
 }
 
-/// The bare decoding of all pictures, in as many threads, to compare with.
+/// The bare decoding of all pictures, in as many threads beside an idle main loop, to compare with.
 void decodeAll(const ImageBrowserView &view)
 {
     QThreadPool pool;
     QElapsedTimer clock;
     clock.start();
     const std::atomic<bool> stop = false;
+    std::atomic<int> left = view.model()->rowCount();
+    Heart heart;
     for (int i = 0; i < view.model()->rowCount(); ++i) {
         const auto &model = static_cast<const BrowserModel &>(*view.model());
-        pool.start([path = model.itemAtIndex(i).imageRepresentation(), &stop] {
+        pool.start([path = model.itemAtIndex(i).imageRepresentation(), &stop, &left] {
             (void)decodePicture(path, {256, 256}, stop);
+            --left;
         });
     }
-    pool.waitForDone();
-    std::printf("all pictures merely decoded   %.0f ms\n", milliseconds(clock));
+    runUntil([&] { return left == 0; });
+    std::printf("all pictures merely decoded   %.0f ms, longest gap meanwhile %.0f ms\n",
+                milliseconds(clock), heart.takeGap());
+}
+
+void remove(Browser &browser, int count)
+{
+    BrowserWindow &window = browser.browserWindow();
+    QList<int> items(count);
+    std::iota(items.begin(), items.end(), 0);
+    browser.actions().removeItemsAtIndexes(items);
+    rest(500);
+    auto *sheet = window.findChild<QMessageBox *>(QStringLiteral("deleteSheet"));
+    const BrowserRow *shown = browser.images().rowAt(count);
+    Paints paints(window.imageBrowser());
+    Heart heart;
+    QElapsedTimer clock;
+    clock.start();
+    sheet->buttons().first()->click();
+    runUntil([&] { return paints.count > 0; });
+    std::printf("%d deleted: painted without them after %.0f ms", count, milliseconds(clock));
+    runUntil([&] { return browser.images().rowAt(0) != shown; }); // of the collection read anew
+    rest(500);
+    std::printf(", longest gap of the main loop %.0f ms\n", heart.takeGap());
 }
 
 } // namespace
@@ -181,36 +255,35 @@ int main(int argc, char **argv)
         delegate.browser()->browser().browserWindow().resize(900, 600); // as the others
         return QApplication::exec();
     }
+    delegate.browser()->setTrash([](const QStringList &paths, const std::function<void()> &done) {
+        for (const QString &path : paths)
+            QFile::remove(path);
+        done();
+    });
     rest(500);
     const double idle = bench::memoryMb("VmRSS");
     Browser &browser = delegate.browser()->browser();
-    BrowserWindow &window = browser.browserWindow();
-    ImageBrowserView &view = window.imageBrowser();
-    Paints paints(view);
-    QElapsedTimer beat;
-    double gap = 0;
-    QTimer heart;
-    heart.setTimerType(Qt::PreciseTimer);
-    QObject::connect(&heart, &QTimer::timeout, [&] {
-        gap = std::max(gap, milliseconds(beat));
-        beat.start();
-    });
-    beat.start();
-    heart.start(2);
-
+    Heart heart;
     QElapsedTimer clock;
     clock.start();
     browser.picBrowser();
+    BrowserWindow &window = browser.browserWindow();
+    ImageBrowserView &view = window.imageBrowser();
+    Paints paints(view);
     runUntil([&] { return paints.count > 0; });
     std::printf("%d pictures; first painted screen after %.0f ms\n", view.model()->rowCount(),
                 milliseconds(clock));
     runUntil([&] { return screenIsFull(view); });
-    std::printf("first screenful of thumbnails %.0f ms\n", milliseconds(clock));
+    std::printf("first screenful of thumbnails %.0f ms, longest gap of the main loop %.0f ms\n",
+                milliseconds(clock), heart.takeGap());
+    if (app.arguments().value(1) == u"delete") {
+        remove(browser, app.arguments().value(2).toInt());
+        return 0;
+    }
     if (app.arguments().value(1) == u"all")
         showAll(view);
     rest(1000);
-    std::printf("longest gap of the main loop  %.0f ms\n", gap);
-    heart.stop();
+    std::printf("longest gap since             %.0f ms\n", heart.takeGap());
     if (app.arguments().value(1) == u"all")
         decodeAll(view);
     type(window, view);

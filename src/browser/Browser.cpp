@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <functional>
 #include <future>
+#include <utility>
 
 namespace moravel {
 
@@ -116,14 +117,14 @@ void Browser::addSourcePopupItem(const QString &longName)
 
 void Browser::picBrowser()
 {
+    m_thumbnails.clear(); // files may have changed since
+    assembleBrowserData(); // reads while the window is being made
     BrowserWindow &window = browserWindow();
     window.setBrowserBackground();
-    m_thumbnails.clear(); // files may have changed since
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
     window.raise();
     window.activateWindow();
-    assembleBrowserData();
 }
 
 // The collection ---------------------------------------------------------------------------------
@@ -161,23 +162,25 @@ void Browser::assembleBrowserData()
 
 void Browser::take(std::shared_ptr<const BrowserData> data)
 {
-    m_browserData = std::move(data);
+    const auto before = std::exchange(m_browserData, std::move(data));
     m_captions = nullptr;
     searchInBrowser();
-    indexCaptions();
+    indexCaptions(before);
 }
 
-/// A search that came before waits for it.
-void Browser::indexCaptions()
+/// A search that came before waits for it. @p before is let go on the way: a hundred thousand rows take long to
+/// free.
+void Browser::indexCaptions(const std::shared_ptr<const BrowserData> &before)
 {
     auto index = std::make_shared<CaptionIndex>();
-    m_context.ports.inBackground([index, data = m_browserData] { *index = captionIndex(*data); },
-                                 [this, index, data = m_browserData] {
-                                     if (data != m_browserData)
-                                         return;
-                                     m_captions = index;
-                                     searchInBrowser();
-                                 });
+    m_context.ports.inBackground(
+        [index, data = m_browserData, before] { *index = captionIndex(*data); },
+        [this, index, data = m_browserData] {
+            if (data != m_browserData)
+                return;
+            m_captions = index;
+            searchInBrowser();
+        });
 }
 
 void Browser::searchInBrowser()

@@ -64,7 +64,7 @@ private:
     void buildWindow();
     void addImages(const QStringList &paths);
     void take(std::shared_ptr<const BrowserData> data);
-    void indexCaptions();
+    void indexCaptions(const std::shared_ptr<const BrowserData> &before);
     void showImages();
     void readZoom();
     Place place() const;

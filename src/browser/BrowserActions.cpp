@@ -194,8 +194,15 @@ void BrowserActions::deleteItems(const QList<int> &indexes)
     QStringList paths;
     for (const int index : indexes)
         paths.append(m_browser.images().itemAtIndex(index).imageRepresentation());
-    const QStringList thumbs =
-        m_context.updates.storeDeletionsForFileNamesAndReturnThumbs(recordedNames(paths));
+    m_browser.removeItems(indexes);
+    m_context.updates.storeDeletionsForFileNames(
+        recordedNames(paths), m_context.ports.inBackground,
+        [this, paths](const QStringList &thumbs) { trash(paths, thumbs); });
+}
+
+/// By now the records tell of the deletion: the next desktop is none of the deleted pictures.
+void BrowserActions::trash(const QStringList &paths, const QStringList &thumbs) const
+{
     QStringList toTrash;
     for (qsizetype i = 0; i < paths.size(); ++i) {
         toTrash.append(paths[i]);
@@ -210,7 +217,6 @@ void BrowserActions::deleteItems(const QList<int> &indexes)
             markDeleted(*cell);
     }
     toTrash.removeDuplicates();
-    m_browser.removeItems(indexes);
     m_context.ports.moveToTrash(toTrash, [this] { m_browser.assembleBrowserData(); });
 }
 

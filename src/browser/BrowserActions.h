@@ -38,6 +38,7 @@ private:
     QString firstSelectedPath() const;
     QList<int> itemsForDeletion() const;
     void deleteItems(const QList<int> &indexes);
+    void trash(const QStringList &paths, const QStringList &thumbs) const;
     QStringList recordedNames(const QStringList &paths) const;
     void markDeleted(ThumbView &cell) const;
     void fillBrowserCell(const QString &path) const;

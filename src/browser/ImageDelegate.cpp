@@ -40,14 +40,24 @@ void paintRing(QPainter *painter, const QRect &around, const QColor &colour, boo
     painter->drawRoundedRect(QRectF(around).adjusted(inset, inset, -inset, -inset), Radius, Radius);
 }
 
-void paintImage(QPainter *painter, const QImage &image, const QRect &place)
+/// A colour in the shade; not black that lets it shine through, see paintImage().
+QColor shaded(const QColor &colour, double black)
 {
-    const QRectF shade = QRectF(place).adjusted(-0.5, -0.5, 0.5, 0.5);
-    painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(QColor(0, 0, 0, 26), 1));
-    painter->drawRoundedRect(shade.adjusted(-1, 0, 1, 2), 2, 2);
-    painter->setPen(QPen(QColor(0, 0, 0, 70), 1));
-    painter->drawRect(shade);
+    const auto part = [black](float value) { return static_cast<float>(value * (1 - black)); };
+    return QColor::fromRgbF(part(colour.redF()), part(colour.greenF()), part(colour.blueF()));
+}
+
+/// The picture and the shade around it. Plain opaque rectangles: what is smooth, round or lets shine through, Qt
+/// spreads over its threads and waits for them, several times a picture, and cuts line by line where only parts
+/// of the view are painted. Together that may take longer than a frame.
+void paintImage(QPainter *painter, const QImage &image, const QRect &place, const QColor &around)
+{
+    const QColor faint = shaded(around, 0.1);
+    painter->fillRect(place.adjusted(-2, 0, 2, 0), faint);
+    painter->fillRect(QRect(place.left(), place.bottom() + 2, place.width(), 1), faint);
+    painter->fillRect(place.adjusted(-1, -1, 1, 1), shaded(around, 0.28));
+    if (image.hasAlphaChannel())
+        painter->fillRect(place, around);
     painter->drawImage(place, image);
 }
 
@@ -78,24 +88,27 @@ void ImageDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const QRect place = image.isNull() ? frame : placeIn(frame, QSizeF(image.size()) / scale);
     const QColor highlight = option.palette.color(groupOf(option), QPalette::Highlight);
     const QRect ring = place.adjusted(-RingGap, -RingGap, RingGap, RingGap);
-    if (option.state & QStyle::State_Selected)
+    const bool selected = option.state & QStyle::State_Selected;
+    const QColor around =
+        selected ? highlight : option.palette.color(groupOf(option), QPalette::Base);
+    if (selected)
         paintRing(painter, ring, highlight, true);
     if (image.isNull())
-        paintMissing(painter, place, index.data(BrowserModel::FailedRole).toBool());
+        paintMissing(painter, place, shaded(around, 0.055),
+                     index.data(BrowserModel::FailedRole).toBool());
     else
-        paintImage(painter, image, place);
+        paintImage(painter, image, place, around);
     paintTitle(painter, option, index.data(Qt::DisplayRole).toString());
     if (option.state & QStyle::State_HasFocus)
         paintRing(painter, option.rect.adjusted(1, 1, -1, -1), highlight, false);
     painter->restore();
 }
 
-void ImageDelegate::paintMissing(QPainter *painter, const QRect &frame, bool failed) const
+void ImageDelegate::paintMissing(QPainter *painter, const QRect &frame, const QColor &colour,
+                                 bool failed) const
 {
     constexpr int Points = 28;
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(QColor(0, 0, 0, 14));
-    painter->drawRoundedRect(frame, 3, 3);
+    painter->fillRect(frame, colour);
     if (!failed || !m_look.pixmap)
         return;
     const QPixmap icon = m_look.pixmap(QStringLiteral("picture"), Points, QColor(0x80, 0x80, 0x80),

@@ -27,7 +27,8 @@ public:
 private:
     void paintTitle(QPainter *painter, const QStyleOptionViewItem &option,
                     const QString &title) const;
-    void paintMissing(QPainter *painter, const QRect &frame, bool failed) const;
+    void paintMissing(QPainter *painter, const QRect &frame, const QColor &colour,
+                      bool failed) const;
 
     BrowserLook m_look;
     QFont m_font;

@@ -109,7 +109,24 @@ std::unique_ptr<FileBytes> RecordFile::openTextData() const
 
 bool RecordFile::writeTextData(const QString &text)
 {
+    const std::lock_guard turn(m_changing);
     return write(m_folders.moravelDataFile(), {viewOf(text.toUtf8())});
+}
+
+std::function<FileResult<void>()> RecordFile::changing(Change change)
+{
+    return [this, path = m_folders.moravelDataFile(),
+            change = std::move(change)]() -> FileResult<void> {
+        const std::lock_guard turn(m_changing);
+        const auto file = m_files.open(path);
+        if (!file || !isValidUtf8((*file)->bytes())) {
+            qCInfo(lcStore) << "cannot read" << path
+                            << (file ? QString() : file.error().description);
+            return {};
+        }
+        const auto changed = change((*file)->bytes());
+        return changed ? m_files.writeAtomically(path, {viewOf(*changed)}) : FileResult<void>();
+    };
 }
 
 bool RecordFile::write(const QString &path, std::initializer_list<std::string_view> pieces)
@@ -199,6 +216,7 @@ bool RecordFile::saveStoredData(const QString &record)
     }
     const QByteArray key = sourceEnd < 0 ? line + '\t' : line.first(sourceEnd + 1);
     const QString path = m_folders.moravelDataFile();
+    const std::lock_guard turn(m_changing);
     const auto text = load(path);
     if (!text)
         return alertNotStored(text.error());
@@ -214,6 +232,7 @@ bool RecordFile::removeDataFor(const QString &source, const QString &onSqlDate)
     if (onSqlDate.isEmpty())
         return false;
     const QString path = m_folders.moravelDataFile();
+    const std::lock_guard turn(m_changing);
     const auto text = load(path);
     if (!text)
         return false;

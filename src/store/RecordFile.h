@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <mutex>
 #include <optional>
 
 namespace moravel {
@@ -19,7 +20,7 @@ class Folders;
 /// The key of a record is its date and its short source name; where several share a key, the first
 /// counts. Look-ups return "" (or −1) for nothing. Every call reads the file anew, and every change
 /// replaces it in one step. A file that cannot be read or is not UTF-8 reads as nothing and is never
-/// written: a change then alerts. Main thread only.
+/// written: a change then alerts. Main thread only, but for what changing() returns.
 class RecordFile
 {
 public:
@@ -38,6 +39,16 @@ public:
 
     /// Replaces the whole text. Returns false after an alert.
     bool writeTextData(const QString &text);
+
+    /// Makes another text of the one there is; nothing leaves it alone.
+    using Change = std::function<std::optional<QByteArray>(std::string_view text)>;
+
+    /// Returns what carries out a change, on any thread; other changes wait meanwhile, so that none is lost.
+    /// What it returns is for alertNotStored(). A file that cannot be read is left alone.
+    std::function<FileResult<void>()> changing(Change change);
+
+    /// Tells the user of a change that was not written. Returns false.
+    bool alertNotStored(const FileError &error);
 
     QString storedDataFor(const QString &source, const QString &onShortDate) const;
 
@@ -70,7 +81,6 @@ private:
     FileResult<Text> load(const QString &path) const;
     Text loadOrNothing() const;
     bool write(const QString &path, std::initializer_list<std::string_view> pieces);
-    bool alertNotStored(const FileError &error);
 
     Folders &m_folders;
     Files &m_files;
@@ -78,6 +88,7 @@ private:
     const Dates &m_dates;
     LegacyLookUp m_legacy;
     mutable QByteArray m_validStamp; ///< Of the state of the file that was last found to be UTF-8.
+    std::mutex m_changing; ///< From the reading to the writing of a change.
 };
 
 } // namespace moravel

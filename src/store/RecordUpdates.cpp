@@ -73,17 +73,30 @@ QString RecordUpdates::storeDeletionForFileNameAndReturnThumb(const QString &fil
     return replaceField(m_records.storedDataForFile(fileName, false), ThumbField, deletedMark());
 }
 
-QStringList RecordUpdates::storeDeletionsForFileNamesAndReturnThumbs(const QStringList &fileNames)
+void RecordUpdates::storeDeletionsForFileNames(const QStringList &fileNames,
+                                               const InBackground &inBackground,
+                                               std::function<void(const QStringList &thumbs)> done)
 {
-    if (fileNames.size() == 1)
-        return {storeDeletionForFileNameAndReturnThumb(fileNames.first())};
-    RecordBatch batch(m_records.readTextData().value_or(QString()));
-    QStringList thumbs;
-    for (const QString &name : fileNames)
-        thumbs.append(batch.replaceField(name, ThumbField, deletedMark()));
-    if (batch.hasChanged())
-        m_records.writeTextData(batch.text());
-    return thumbs;
+    struct Work
+    {
+        QStringList thumbs;
+        FileResult<void> stored;
+    };
+
+    const auto work = std::make_shared<Work>();
+    work->thumbs.resize(fileNames.size());
+    const auto change = [work, fileNames](std::string_view text) {
+        RecordBatch batch(text, fileNames);
+        for (qsizetype i = 0; i < fileNames.size(); ++i)
+            work->thumbs[i] = batch.replaceField(fileNames[i], ThumbField, deletedMark());
+        return batch.hasChanged() ? std::optional(batch.text()) : std::nullopt;
+    };
+    inBackground([work, store = m_records.changing(change)] { work->stored = store(); },
+                 [this, work, done = std::move(done)] {
+                     if (!work->stored)
+                         m_records.alertNotStored(work->stored.error());
+                     done(work->thumbs);
+                 });
 }
 
 void RecordUpdates::storeThumbForSource(const QString &source, const QString &onShortDate,

@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include <functional>
+
 namespace moravel {
 
 class Dates;
@@ -29,8 +31,14 @@ public:
     /// Marks a picture as deleted and returns the thumbnail link it had, or "".
     QString storeDeletionForFileNameAndReturnThumb(const QString &fileName);
 
-    /// Does so for many files, with one reading and one writing. Returns the links in the order of the names.
-    QStringList storeDeletionsForFileNamesAndReturnThumbs(const QStringList &fileNames);
+    /// Runs work on a worker thread, then what is done with it on the main one.
+    using InBackground =
+        std::function<void(std::function<void()> work, std::function<void()> done)>;
+
+    /// Does so for many files, with one reading and one writing, in the background: a hundred thousand records
+    /// take long to write. @p done gets the links in the order of the names, once.
+    void storeDeletionsForFileNames(const QStringList &fileNames, const InBackground &inBackground,
+                                    std::function<void(const QStringList &thumbs)> done);
 
     /// Gives a picture a thumbnail link, which ends its being deleted.
     void storeThumbForSource(const QString &source, const QString &onShortDate,

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "StoreWorld.h"
 
+#include <functional>
+#include <thread>
+
 namespace {
 
 const QByteArray before = "20110703\tWiki\tt3\tp3\tw3\tc3\ti3\n";
@@ -112,8 +115,40 @@ TEST(RecordUpdatesTest, manyDeletionsAtOnceDoWhatOneByOneDoes)
     QStringList thumbs;
     for (const QString &name : names)
         thumbs.append(one.updates.storeDeletionForFileNameAndReturnThumb(name));
-    EXPECT_EQ(many.updates.storeDeletionsForFileNamesAndReturnThumbs(names), thumbs);
+    QStringList got;
+    const auto run = [](const auto &work, const auto &done) { work(), done(); };
+    many.updates.storeDeletionsForFileNames(names, run, [&](const auto &links) { got = links; });
+    EXPECT_EQ(got, thumbs);
     EXPECT_EQ(many.data(), one.data());
     EXPECT_EQ(many.files.writes, 1);
     EXPECT_TRUE(thumbs.contains(u"http://x/t/p1.jpg"_s));
+}
+
+TEST(RecordUpdatesTest, deletionsInTheBackgroundLoseNoOtherChange)
+{
+    StoreWorld w;
+    w.setData(before + record + '\n' + after);
+    std::thread worker;
+    QStringList thumbs;
+    std::function<void()> finish;
+    const auto start = [&](const auto &work, const auto &done) {
+        worker = std::thread([work] {
+            for (int i = 0; i < 50; ++i)
+                work();
+        });
+        finish = done;
+    };
+    w.updates.storeDeletionsForFileNames({u"b.jpg"_s}, start, [&](const auto &t) { thumbs = t; });
+    for (int i = 0; i < 50; ++i)
+        w.records.saveStoredData(u"2012\tSource%1\tt\tp\tw\tc\ti"_s.arg(i));
+    worker.join();
+    finish();
+    EXPECT_EQ(w.data().count('\n'), 53);
+    EXPECT_TRUE(w.data().contains("20110704\tWiki\tDELETED\t"));
+    w.files.writeError = u"full"_s;
+    w.updates.storeDeletionsForFileNames(
+        {u"b.jpg"_s}, [](const auto &work, const auto &done) { work(), done(); },
+        [&](const auto &t) { thumbs = t; });
+    EXPECT_EQ(thumbs, QStringList{u"DELETED"_s});
+    EXPECT_EQ(w.takeAlerts(), QStringList{u"Error storing Moravel data.|full"_s});
 }

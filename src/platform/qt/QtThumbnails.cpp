@@ -20,7 +20,7 @@ namespace {
 constexpr int MostThreads = 4;
 
 // What the user waits to see is made before the last ones are kept, unless too many wait in memory for it.
-constexpr int MostUnkept = 64;
+constexpr qsizetype MostUnkept = 48 << 20; ///< Bytes.
 constexpr int WhenNothingElse = -1; ///< Priority below the usual 0.
 
 QImage fitting(const QImage &image, QSize box)
@@ -126,15 +126,14 @@ ThumbnailCallHandle QtThumbnails::load(const QString &path, QSize box,
         if (made.toKeep.isNull())
             return;
         const auto keep = [this, made] { m_cache.write(made.key, made.size, made.toKeep); };
-        if (++m_unkept > MostUnkept) {
-            keep();
-            --m_unkept;
-            return;
-        }
+        const qsizetype bytes = made.toKeep.sizeInBytes();
+        if (m_unkept > MostUnkept)
+            return keep();
+        m_unkept += bytes;
         m_pool.start(
-            [this, keep] {
+            [this, keep, bytes] {
                 keep();
-                --m_unkept;
+                m_unkept -= bytes;
             },
             WhenNothingElse);
     });

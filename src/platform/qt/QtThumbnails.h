@@ -41,7 +41,7 @@ private:
     QObject m_mainThread; ///< Receives the results; those still posted go with it.
     quint64 m_next = 0;
     std::map<quint64, JobPtr> m_jobs;
-    std::atomic<int> m_unkept = 0; ///< Made, but not yet in the cache.
+    std::atomic<qsizetype> m_unkept = 0; ///< Bytes that are made, but not yet in the cache.
     QThreadPool m_pool;
 };
 
