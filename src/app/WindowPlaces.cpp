@@ -41,7 +41,8 @@ void bringOntoScreen(QWidget &window)
 WindowPlaces::WindowPlaces(Preferences &preferences, MainLoop &loop)
     : m_preferences(preferences), m_loop(loop), m_kept(preferences.readOpenWindows())
 {
-    QCoreApplication::instance()->installEventFilter(this);
+    QCoreApplication::instance()->installEventFilter(
+        this); // it sees the events of all windows, too
 }
 
 void WindowPlaces::follow(QWidget &window, const QString &name)
@@ -55,14 +56,14 @@ void WindowPlaces::follow(QWidget &window, const QString &name)
     m_windows[&window] = {name, place};
     if (!m_main)
         m_main = &window;
-    window.installEventFilter(this);
     connect(&window, &QObject::destroyed, this, [this, &window] { m_windows.erase(&window); });
 }
 
 bool WindowPlaces::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isOfWindow = watched->isWidgetType();
-    if (!isOfWindow && event->type() == QEvent::Quit && !m_isEnding) {
+    const bool isOfWindow =
+        watched->isWidgetType() && m_windows.count(static_cast<QWidget *>(watched)) > 0;
+    if (event->type() == QEvent::Quit && !m_isEnding) {
         save(); // after this the windows are closed
         m_isEnding = true;
     } else if (isOfWindow && event->type() == QEvent::Hide && !event->spontaneous()) {
