@@ -71,7 +71,8 @@ struct DesktopLab : ::testing::Test
     static int run(const QString &line, const QStringList &more = {})
     {
         QStringList words = QProcess::splitCommand(line);
-        return QProcess::execute(words.takeFirst(), words + more);
+        const QString program = words.takeFirst();
+        return QProcess::execute(program, words + more);
     }
 
     /// What it prints, without white space around it.
@@ -79,7 +80,8 @@ struct DesktopLab : ::testing::Test
     {
         QProcess process;
         QStringList words = QProcess::splitCommand(line);
-        process.start(words.takeFirst(), words + more);
+        const QString program = words.takeFirst();
+        process.start(program, words + more);
         process.waitForFinished();
         return QString::fromUtf8(process.readAllStandardOutput().trimmed());
     }
