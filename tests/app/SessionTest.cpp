@@ -79,12 +79,12 @@ TEST_F(SessionTest, whatWasOpenComesBackUnlessTheUserEndsIt)
     };
 
     for (const auto &c : cases) {
-        App before(home, all());
+        App before(home, allSources());
         before.run(20);
         before.delegate.cells().at(1).showThumbLarge();
         before.delegate.browser()->browser().picBrowser();
         c.end(before);
-        App app(home, all(true), true);
+        App app(home, allSources(true), true);
         app.hasTray = true;
         app.run(20);
         EXPECT_FALSE(isBrowserOpen(app) || app.delegate.largePic().isVisible());
