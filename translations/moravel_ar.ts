@@ -778,6 +778,10 @@ Exit codes: 0 done; 1 refused or no answer; 2 wrong arguments; 3 not running (co
             <numerusform>%Ln صورة.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>امسح البحث</translation>
+    </message>
 </context>
 <context>
     <name>moravel::CellButtonBar</name>

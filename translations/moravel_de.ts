@@ -765,6 +765,10 @@ Rückgabewerte: 0 erledigt; 1 abgelehnt oder keine Antwort; 2 falsche Argumente;
             <numerusform>%Ln Bilder.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
 </context>
 <context>
     <name>moravel::CellButtonBar</name>

@@ -5,6 +5,7 @@
 // shown; with "stay" it only opens the browser, for scripts/bench-browser, which measures it beside other
 // programs; with "delete" it deletes pictures for good: for a copy (cp -al) of a collection.
 #include "bench/ProcessMemory.h"
+#include "bench/StolenTime.h"
 #include "bench/app/RealPlatform.h"
 
 #include "app/MoravelAppDelegate.h"
@@ -167,6 +168,7 @@ void scroll(ImageBrowserView &view, const char *what, int step, int frames)
     Figures figures;
     Figures processor;
     QScrollBar *bar = view.verticalScrollBar();
+    const double stolen = bench::stolenMilliseconds();
     bar->setValue(0);
     for (int i = 0; i < frames; ++i) {
         const double before = processorMilliseconds();
@@ -180,6 +182,7 @@ void scroll(ImageBrowserView &view, const char *what, int step, int frames)
     }
     figures.print(what);
     processor.print("  of it processor time");
+    std::printf("  the host took away meanwhile %.0f ms\n", bench::stolenMilliseconds() - stolen);
 }
 
 void showAll(ImageBrowserView &view)
@@ -264,6 +267,7 @@ int main(int argc, char **argv)
     const double idle = bench::memoryMb("VmRSS");
     Browser &browser = delegate.browser()->browser();
     Heart heart;
+    const double stolen = bench::stolenMilliseconds();
     QElapsedTimer clock;
     clock.start();
     browser.picBrowser();
@@ -274,8 +278,9 @@ int main(int argc, char **argv)
     std::printf("%d pictures; first painted screen after %.0f ms\n", view.model()->rowCount(),
                 milliseconds(clock));
     runUntil([&] { return screenIsFull(view); });
-    std::printf("first screenful of thumbnails %.0f ms, longest gap of the main loop %.0f ms\n",
-                milliseconds(clock), heart.takeGap());
+    std::printf("first screenful of thumbnails %.0f ms, longest gap of the main loop %.0f ms; "
+                "taken away %.0f ms\n",
+                milliseconds(clock), heart.takeGap(), bench::stolenMilliseconds() - stolen);
     if (app.arguments().value(1) == u"delete") {
         remove(browser, app.arguments().value(2).toInt());
         return 0;

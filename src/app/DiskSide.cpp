@@ -120,8 +120,9 @@ void DiskSide::look(std::function<void(const Collection &)> done)
     work->thumbsFolder = m_context.folders.thumbsFolder();
     work->facts.legacy = m_legacy.readOldTextData();
     work->facts.sourceNames = m_context.sourceNames;
-    work->records = m_context.records.openTextData();
-    const auto list = [work, &files = m_context.platform.files] {
+    const auto list = [work, open = m_context.records.openingTextData(),
+                       &files = m_context.platform.files] {
+        work->records = open();
         work->facts.pictures = files.entries(work->folder).value_or(std::vector<FileEntry>());
         work->facts.thumbs = files.entries(work->thumbsFolder).value_or(std::vector<FileEntry>());
     };

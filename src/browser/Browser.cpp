@@ -134,25 +134,24 @@ void Browser::assembleBrowserData()
     struct Work
     {
         BrowserTexts texts;
-        std::unique_ptr<FileBytes> records;
         std::shared_ptr<const BrowserData> data;
     };
 
     auto work = std::make_shared<Work>();
     work->texts.folder = m_context.folders.moravelFolder();
     work->texts.legacy = m_context.legacy.readOldTextData();
-    work->records = m_context.records.openTextData();
     work->texts.isImageExtension = [&images = m_context.images](const QString &extension) {
         return images.isImageExtension(extension);
     };
-    const auto read = [work, &files = m_context.files] {
+    const auto read = [work, open = m_context.records.openingTextData(), &files = m_context.files] {
         auto listing =
             std::async(std::launch::async, filesIn, std::cref(files), work->texts.folder);
-        if (work->records)
-            work->texts.records = work->records->bytes();
+        const std::unique_ptr<FileBytes> records = open();
+        if (records)
+            work->texts.records = records->bytes();
         std::vector<BrowserRow> recorded = recordedRows(work->texts);
         work->data = std::make_shared<BrowserData>(browserData(std::move(recorded), listing.get()));
-        work->records.reset(); // here rather than on the main thread
+        work->texts.records = {};
     };
     m_context.ports.inBackground(read, [this, work, assembly = ++m_assemblies] {
         if (assembly == m_assemblies)

@@ -63,6 +63,7 @@ protected:
 
 private:
     QWidget *makeHeader();
+    void addSearchIcons();
     QWidget *makeFooter();
     void makeCommands(const BrowserCommands &commands);
     void addCommand(const std::function<void()> &command, const char *name, const QString &icon,

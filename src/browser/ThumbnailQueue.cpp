@@ -7,8 +7,9 @@ namespace moravel {
 
 namespace {
 
-// Enough that no thread waits for the main loop; few enough that what is scrolled into view comes soon.
-constexpr std::size_t MostRunning = 6;
+// Beyond those that are being made: no thread waits for an idle main loop. While that is busy painting what
+// scrolls, they do wait, and leave it a processor.
+constexpr int Ahead = 1;
 
 } // namespace
 
@@ -49,7 +50,8 @@ bool ThumbnailQueue::isKnown(const QString &path) const
 
 void ThumbnailQueue::startSome()
 {
-    while (m_running.size() < MostRunning && !m_wanted.empty()) {
+    const auto most = static_cast<std::size_t>(m_thumbnails.atOnce() + Ahead);
+    while (m_running.size() < most && !m_wanted.empty()) {
         const QString path = m_wanted.front();
         m_wanted.pop_front();
         if (isKnown(path) || m_running.contains(path))

@@ -33,6 +33,9 @@ class Thumbnails
 public:
     virtual ~Thumbnails() = default;
 
+    /// How many are made at the same time.
+    virtual int atOnce() const = 0;
+
     /// Loads the picture at @p path, upright, scaled down (never up) to fit @p box in pixels. Calls @p done once,
     /// never from within, unless the handle is destroyed before. Calls are answered in about their order.
     [[nodiscard]] virtual ThumbnailCallHandle load(const QString &path, QSize box,

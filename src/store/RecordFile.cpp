@@ -44,6 +44,19 @@ std::optional<Line> lineMentioning(std::string_view text, const QString &fileNam
     return firstLineContaining(text, viewOf(mention(fileName).toUtf8()), '\n', from);
 }
 
+FileResult<std::unique_ptr<FileBytes>> openValid(Files &files, const QString &path)
+{
+    auto file = files.open(path);
+    if (file && !isValidUtf8((*file)->bytes()))
+        return tl::make_unexpected(FileError{path, QStringLiteral("is not UTF-8")});
+    return file;
+}
+
+void logUnread(const FileError &error)
+{
+    qCInfo(lcStore) << "cannot read" << error.path << error.description;
+}
+
 } // namespace
 
 /// The bytes of the file, checked to be UTF-8.
@@ -55,8 +68,6 @@ public:
     explicit Text(std::unique_ptr<FileBytes> file) : m_file(std::move(file)) { }
 
     std::string_view bytes() const { return m_file ? m_file->bytes() : std::string_view(); }
-
-    std::unique_ptr<FileBytes> release() { return std::move(m_file); }
 
 private:
     std::unique_ptr<FileBytes> m_file;
@@ -92,7 +103,7 @@ RecordFile::Text RecordFile::loadOrNothing() const
     auto text = load(m_folders.moravelDataFile());
     if (text)
         return std::move(*text);
-    qCInfo(lcStore) << "cannot read" << text.error().path << text.error().description;
+    logUnread(text.error());
     return {};
 }
 
@@ -102,9 +113,17 @@ std::optional<QString> RecordFile::readTextData() const
     return text ? std::optional(textOf(text->bytes())) : std::nullopt;
 }
 
-std::unique_ptr<FileBytes> RecordFile::openTextData() const
+std::function<std::unique_ptr<FileBytes>()> RecordFile::openingTextData() const
 {
-    return loadOrNothing().release();
+    return [&files = m_files, path = m_folders.moravelDataFile()]() -> std::unique_ptr<FileBytes> {
+        if (path.isEmpty() || !files.exists(path))
+            return nullptr;
+        auto file = openValid(files, path);
+        if (file)
+            return std::move(*file);
+        logUnread(file.error());
+        return nullptr;
+    };
 }
 
 bool RecordFile::writeTextData(const QString &text)
@@ -118,10 +137,9 @@ std::function<FileResult<void>()> RecordFile::changing(Change change)
     return [this, path = m_folders.moravelDataFile(),
             change = std::move(change)]() -> FileResult<void> {
         const std::lock_guard turn(m_changing);
-        const auto file = m_files.open(path);
-        if (!file || !isValidUtf8((*file)->bytes())) {
-            qCInfo(lcStore) << "cannot read" << path
-                            << (file ? QString() : file.error().description);
+        const auto file = openValid(m_files, path);
+        if (!file) {
+            logUnread(file.error());
             return {};
         }
         const auto changed = change((*file)->bytes());

@@ -20,7 +20,8 @@ class Folders;
 /// The key of a record is its date and its short source name; where several share a key, the first
 /// counts. Look-ups return "" (or −1) for nothing. Every call reads the file anew, and every change
 /// replaces it in one step. A file that cannot be read or is not UTF-8 reads as nothing and is never
-/// written: a change then alerts. Main thread only, but for what changing() returns.
+/// written: a change then alerts. Main thread only, but for what
+/// changing() and openingTextData() return.
 class RecordFile
 {
 public:
@@ -33,9 +34,9 @@ public:
     /// Returns the whole text; "" when there is no file, nothing when it cannot be read.
     std::optional<QString> readTextData() const;
 
-    /// Opens the whole text, UTF-8, for a reader who splits it himself, on any thread. Null when there is
-    /// none or it cannot be read.
-    std::unique_ptr<FileBytes> openTextData() const;
+    /// Returns what opens the whole text, UTF-8, on any thread, for a reader who splits it himself. It gives
+    /// null when there is none or it cannot be read.
+    std::function<std::unique_ptr<FileBytes>()> openingTextData() const;
 
     /// Replaces the whole text. Returns false after an alert.
     bool writeTextData(const QString &text);

@@ -143,7 +143,7 @@ protected:
     Preferences preferences{defaults};
     std::unique_ptr<ThumbCells> cells;
     BrowserPorts ports;
-    BrowserLook look;
+    BrowserLook look{[](const QString &) { return QIcon(); }, {}, {}};
     QStringList log;
     QStringList large;
     bool alt = false;
@@ -334,8 +334,13 @@ TEST_F(BrowserTest, theKeyboardReachesEverything)
     QTest::keyClick(&view(), Qt::Key_X);
     EXPECT_TRUE(field->hasFocus());
     EXPECT_EQ(field->text(), QStringLiteral("Picturex"));
-    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(find<QAction>("clearSearch")->isVisible());
+    trigger("clearSearch");
     EXPECT_EQ(titles().size(), 3);
+    EXPECT_FALSE(find<QAction>("clearSearch")->isVisible());
+    QTest::keyClick(field, Qt::Key_X);
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(field->text(), QString());
     QTest::keyClick(field, Qt::Key_Escape);
     EXPECT_TRUE(view().hasFocus());
     QTest::keyClick(&view(), Qt::Key_F, Qt::ControlModifier);

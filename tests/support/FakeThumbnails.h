@@ -16,6 +16,8 @@ namespace moravel::testing {
 class FakeThumbnails : public Thumbnails
 {
 public:
+    int atOnce() const override { return 2; }
+
     ThumbnailCallHandle load(const QString &path, QSize box,
                              std::function<void(const Thumbnail &)> done) override
     {

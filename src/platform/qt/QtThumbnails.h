@@ -21,6 +21,8 @@ public:
     explicit QtThumbnails(const QString &cacheRoot = standardCacheRoot());
     ~QtThumbnails() override;
 
+    int atOnce() const override { return m_pool.maxThreadCount(); }
+
     ThumbnailCallHandle load(const QString &path, QSize box,
                              std::function<void(const Thumbnail &)> done) override;
 
