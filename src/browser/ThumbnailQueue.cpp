@@ -9,7 +9,7 @@ namespace {
 
 // Beyond those that are being made: no thread waits for an idle main loop. While that is busy painting what
 // scrolls, they do wait, and leave it a processor.
-constexpr int Ahead = 1;
+constexpr int Ahead = 2;
 
 } // namespace
 
