@@ -87,6 +87,7 @@ TEST_F(SourceGridTest, ReadsTheListOfOneEmptyStringAsNothingAndStartsARotation)
     show(2, {QString()});
     EXPECT_EQ(w.rotations, QList<double>{30});
     EXPECT_EQ(w.cells.visibleThumbs(), 0);
+    EXPECT_FALSE(w.cells.at(0).isSpinning()) << "placed, but hidden";
     EXPECT_EQ(w.window->grid().panel()->objectName(), u"nothingSelectedPanel"_s);
 }
 

@@ -79,6 +79,15 @@ TEST_F(TrashOfHome, TellsFilesOfOneNameApart)
     EXPECT_TRUE(inTrash().isEmpty());
 }
 
+TEST_F(TrashOfHome, LeavesNoNoteOnAStrangersFile)
+{
+    const QString stranger = home.write(u"Trash/files/x.jpg"_s, "without a note");
+    QDir(home.path()).mkpath(u"Trash/info"_s);
+    ASSERT_TRUE(discard(home.write(u"Pictures/x.jpg"_s, "x")));
+    EXPECT_EQ(inTrash(), (QStringList{u"x.2.jpg"_s, u"x.jpg"_s, u"x.2.jpg.trashinfo"_s}));
+    EXPECT_EQ(TempHome::read(stranger), "without a note");
+}
+
 TEST_F(TrashOfHome, GoesByNameWhenThePictureFolderWasMoved)
 {
     ASSERT_TRUE(discard(home.write(u"Pictures/Moravel/x.jpg"_s, "x")));
@@ -166,6 +175,12 @@ TEST_F(TrashOfVolume, StaysOnTheVolume)
         EXPECT_TRUE(inTrash(used).isEmpty());
     }
     EXPECT_FALSE(QFile::exists(home.path(u"Trash"_s)));
+
+    const QString namesake = home.write(u"volume/q/p/x.jpg"_s, "another");
+    ASSERT_TRUE(discard(path, 1));
+    ASSERT_TRUE(discard(namesake, 2));
+    ASSERT_TRUE(trash.restore(path));
+    EXPECT_EQ(TempHome::read(path), "x");
 }
 
 TEST_F(TrashOfVolume, IsNotLedAstray)

@@ -142,6 +142,8 @@ TEST(RecordFileTest, aFileThatCannotBeReadIsNeverWritten)
         EXPECT_EQ(w.records.indexOfDataFor(u"Wiki"_s, u"20110704"_s), -1);
         EXPECT_EQ(w.records.storedDataForFile(u"pic.jpg"_s, false), QString());
         EXPECT_FALSE(w.records.removeDataFor(u"Wiki"_s, u"20110704"_s));
+        EXPECT_FALSE(w.records.openingTextData()());
+        EXPECT_TRUE(w.records.changing([](std::string_view) { return QByteArray("lost"); })());
         EXPECT_TRUE(w.takeAlerts().isEmpty());
         EXPECT_FALSE(w.records.saveStoredData(QString::fromUtf8(wiki)));
         EXPECT_EQ(w.takeAlerts(), QStringList{alert});
