@@ -12,8 +12,8 @@ namespace moravel::bench {
 /// (/proc/stat, "steal"); 0 on a machine of its own. What ran meanwhile looks slow without being so.
 inline double stolenMilliseconds()
 {
-    constexpr int Steal =
-        9; // after "cpu", which two spaces follow, user, nice, system, idle, iowait, irq, softirq
+    // After "cpu", which two spaces follow: user, nice, system, idle, iowait, irq, softirq.
+    constexpr int Steal = 9;
     QFile stat(QStringLiteral("/proc/stat"));
     if (!stat.open(QIODevice::ReadOnly))
         return 0;

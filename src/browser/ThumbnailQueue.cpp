@@ -3,19 +3,33 @@
 
 #include <QSet>
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace moravel {
 
 namespace {
 
-// Beyond those that are being made: no thread waits for an idle main loop. While that is busy painting what
-// scrolls, they do wait, and leave it a processor.
-constexpr int Ahead = 2;
+constexpr int Ahead =
+    2; ///< Beyond those that are being made, so that no thread waits for the main loop.
+
+// A wheel, a finger or a drag of the scroll bar brings another row within a few frames of 16 ms.
+constexpr int RestMs = 100;
+constexpr int StepsOfScrolling = 3; ///< Fewer may be whole pages, which are wanted at full speed.
 
 } // namespace
 
 ThumbnailQueue::ThumbnailQueue(Thumbnails &thumbnails, qsizetype memory)
     : m_thumbnails(thumbnails), m_kept(memory)
-{ }
+{
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(RestMs);
+    connect(&m_rest, &QTimer::timeout, this, [this] {
+        m_steps = 0;
+        startSome();
+    });
+}
 
 void ThumbnailQueue::want(const QStringList &paths, QSize box)
 {
@@ -25,6 +39,10 @@ void ThumbnailQueue::want(const QStringList &paths, QSize box)
     std::erase_if(m_running,
                   [&](const auto &call) { return !sameBox || !wanted.contains(call.first); });
     m_wanted.assign(paths.begin(), paths.end());
+    if (const QString first = paths.value(0); first != std::exchange(m_first, first)) {
+        ++m_steps;
+        m_rest.start();
+    }
     startSome();
 }
 
@@ -48,10 +66,16 @@ bool ThumbnailQueue::isKnown(const QString &path) const
     return kept && (kept->box == m_box || kept->thumbnail.image.isNull());
 }
 
+bool ThumbnailQueue::isScrolling() const
+{
+    return m_steps >= StepsOfScrolling;
+}
+
 void ThumbnailQueue::startSome()
 {
-    const auto most = static_cast<std::size_t>(m_thumbnails.atOnce() + Ahead);
-    while (m_running.size() < most && !m_wanted.empty()) {
+    const int most =
+        isScrolling() ? std::max(1, m_thumbnails.atOnce() - 1) : m_thumbnails.atOnce() + Ahead;
+    while (std::ssize(m_running) < most && !m_wanted.empty()) {
         const QString path = m_wanted.front();
         m_wanted.pop_front();
         if (isKnown(path) || m_running.contains(path))

@@ -6,6 +6,7 @@
 #include <QCache>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 #include <deque>
 #include <map>
@@ -13,7 +14,8 @@
 namespace moravel {
 
 /// The thumbnails that are on screen or near it: asks for them in the order of their use, gives up those that
-/// are scrolled away, and remembers as many as fit into its memory.
+/// are scrolled away, and remembers as many as fit into its memory. While somebody scrolls, it leaves a processor
+/// to whoever paints.
 class ThumbnailQueue : public QObject
 {
     Q_OBJECT
@@ -44,13 +46,17 @@ private:
     };
 
     bool isKnown(const QString &path) const;
+    bool isScrolling() const;
     void startSome();
     void keep(const QString &path, QSize box, const Thumbnail &thumbnail);
 
     Thumbnails &m_thumbnails;
     QCache<QString, Kept> m_kept; ///< Cost in bytes.
     std::deque<QString> m_wanted;
+    QString m_first; ///< Of those last wanted.
     QSize m_box;
+    int m_steps = 0; ///< To other pictures, each soon after the one before.
+    QTimer m_rest;
     std::map<QString, ThumbnailCallHandle> m_running;
 };
 

@@ -20,8 +20,8 @@ class Folders;
 /// The key of a record is its date and its short source name; where several share a key, the first
 /// counts. Look-ups return "" (or −1) for nothing. Every call reads the file anew, and every change
 /// replaces it in one step. A file that cannot be read or is not UTF-8 reads as nothing and is never
-/// written: a change then alerts. Main thread only, but for what
-/// changing() and openingTextData() return.
+/// written: a change then alerts. Main thread only, but for what changing()
+/// and openingTextData() return.
 class RecordFile
 {
 public:

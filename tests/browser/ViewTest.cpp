@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/FakeThumbnails.h"
+#include "support/Wait.h"
 
 #include "browser/BrowserModel.h"
 #include "browser/ImageBrowserView.h"
@@ -180,6 +181,29 @@ TEST_F(ViewTest, thumbnailsAreGivenUpWhenScrolledAwayAndForgottenBeyondTheMemory
     while (thumbnails.deliver()) { }
     queue.want({QStringLiteral("/p/bad.jpg")}, {200, 150}); // is not asked for again
     EXPECT_TRUE(thumbnails.waiting().isEmpty());
+}
+
+TEST_F(ViewTest, whoScrollsIsLeftAProcessorUntilTheViewRests)
+{
+    const auto screenAt = [](int first) {
+        QStringList paths;
+        for (int i = first; i < first + 9; ++i)
+            paths.append(QStringLiteral("/p/%1.jpg").arg(i));
+        return paths;
+    };
+    qsizetype atOnce = 0;
+    for (int page = 0; page < 2; ++page) {
+        queue.want(screenAt(10 * page), {200, 150});
+        atOnce = thumbnails.waiting().size();
+        EXPECT_GE(atOnce, thumbnails.atOnce()) << "whole pages come at full speed";
+    }
+    for (int row = 0; row < 3; ++row)
+        queue.want(screenAt(100 + 10 * row), {200, 150});
+    EXPECT_EQ(thumbnails.waiting(), QStringList{screenAt(120).first()});
+    thumbnails.deliver();
+    EXPECT_EQ(thumbnails.waiting().size(), 1);
+    queue.want(screenAt(120), {200, 150}); // the same ones: nothing moves
+    EXPECT_TRUE(testing::waitFor([&] { return thumbnails.waiting().size() == atOnce; }));
 }
 
 } // namespace
