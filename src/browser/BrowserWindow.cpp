@@ -100,8 +100,6 @@ QWidget *BrowserWindow::makeHeader()
     m_searchField->setFixedWidth(200);
     m_searchField->installEventFilter(this);
     addSearchIcons();
-    for (auto *button : m_searchField->findChildren<QToolButton *>())
-        button->setAccessibleName(m_searchField->accessibleName());
     connect(m_searchField, &QLineEdit::textChanged, this, &BrowserWindow::searchInBrowser);
     columns->addWidget(m_toolBar, 1);
     columns->addWidget(m_sourcePopup);
@@ -123,6 +121,9 @@ void BrowserWindow::addSearchIcons()
     connect(clear, &QAction::triggered, m_searchField, &QLineEdit::clear);
     connect(m_searchField, &QLineEdit::textChanged, clear,
             [clear](const QString &text) { clear->setVisible(!text.isEmpty()); });
+    for (auto *button : m_searchField->findChildren<QToolButton *>())
+        button->setAccessibleName(
+            button->defaultAction() == clear ? clear->toolTip() : m_searchField->accessibleName());
 }
 
 QWidget *BrowserWindow::makeFooter()

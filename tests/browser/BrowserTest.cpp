@@ -335,6 +335,8 @@ TEST_F(BrowserTest, theKeyboardReachesEverything)
     EXPECT_TRUE(field->hasFocus());
     EXPECT_EQ(field->text(), QStringLiteral("Picturex"));
     EXPECT_TRUE(find<QAction>("clearSearch")->isVisible());
+    EXPECT_EQ(field->findChildren<QAbstractButton *>().last()->accessibleName(),
+              QStringLiteral("Clear the search"));
     trigger("clearSearch");
     EXPECT_EQ(titles().size(), 3);
     EXPECT_FALSE(find<QAction>("clearSearch")->isVisible());
