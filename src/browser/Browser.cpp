@@ -102,6 +102,10 @@ void Browser::buildWindow()
         m_actions.cellWasDoubleClickedAtIndex(index.row());
     });
     connect(&view, &ImageBrowserView::dropped, this, &Browser::addImages);
+    connect(&view, &ImageBrowserView::firstPainted, this, [this] {
+        if (m_assembled)
+            take(std::exchange(m_assembled, nullptr));
+    });
     if (m_context.look.pixmap)
         view.setMessageIcon([pixmap = m_context.look.pixmap](const QColor &colour, qreal scale) {
             return pixmap(QStringLiteral("picture"), 48, colour, scale);
@@ -155,8 +159,18 @@ void Browser::assembleBrowserData()
     };
     m_context.ports.inBackground(read, [this, work, assembly = ++m_assemblies] {
         if (assembly == m_assemblies)
-            take(work->data);
+            takeSoon(work->data);
     });
+}
+
+/// A window that opens paints its frame first and the pictures second: together they would take longer than a
+/// frame of the screen.
+void Browser::takeSoon(std::shared_ptr<const BrowserData> data)
+{
+    const bool opens = m_window && m_window->isVisible() && !m_window->imageBrowser().wasPainted();
+    m_assembled = opens ? data : nullptr;
+    if (!opens)
+        take(std::move(data));
 }
 
 void Browser::take(std::shared_ptr<const BrowserData> data)

@@ -63,6 +63,7 @@ private:
 
     void buildWindow();
     void addImages(const QStringList &paths);
+    void takeSoon(std::shared_ptr<const BrowserData> data);
     void take(std::shared_ptr<const BrowserData> data);
     void indexCaptions(const std::shared_ptr<const BrowserData> &before);
     void showImages();
@@ -84,6 +85,7 @@ private:
     std::optional<std::vector<int>>
         m_searchData; ///< Positions in the data; none before the first search.
     int m_assemblies = 0;
+    std::shared_ptr<const BrowserData> m_assembled; ///< Until the window has been painted.
     bool m_zoomIsRead = false;
     std::unique_ptr<BrowserWindow> m_window; ///< Goes first: it looks at the model.
 };

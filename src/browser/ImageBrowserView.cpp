@@ -281,6 +281,8 @@ void ImageBrowserView::select(const QList<int> &ascending)
 
 void ImageBrowserView::paintEvent(QPaintEvent *event)
 {
+    if (!std::exchange(m_wasPainted, true))
+        QMetaObject::invokeMethod(this, &ImageBrowserView::firstPainted, Qt::QueuedConnection);
     QPainter painter(viewport());
     if (m_grid.count() == 0)
         return paintMessage(painter);

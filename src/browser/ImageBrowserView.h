@@ -37,6 +37,9 @@ public:
     /// Largest size of a picture in pixels of the screen.
     QSize framePixels() const;
 
+    /// True once the window has been on screen.
+    bool wasPainted() const { return m_wasPainted; }
+
     ImageGrid::Span visibleItems() const;
 
     const ImageGrid &grid() const { return m_grid; }
@@ -55,6 +58,8 @@ public:
 Q_SIGNALS:
     /// Other items may be visible, or the same ones in another size; comes later than the change.
     void visibleItemsChanged();
+    /// Comes once, later than the first painting.
+    void firstPainted();
     /// Return was pressed.
     void openWanted();
     void menuWanted(QPoint globalPos);
@@ -113,6 +118,7 @@ private:
     std::function<QPixmap(const QColor &, qreal)> m_messageIcon;
     bool m_announcing = false;
     bool m_layingOut = false;
+    bool m_wasPainted = false;
 };
 
 } // namespace moravel
