@@ -11,8 +11,8 @@ namespace moravel {
 
 namespace {
 
-constexpr int Ahead =
-    2; ///< Beyond those that are being made, so that no thread waits for the main loop.
+// Asked for beyond those that are being made, so that no thread waits for the main loop.
+constexpr int Ahead = 2;
 
 // A wheel, a finger or a drag of the scroll bar brings another row within a few frames of 16 ms.
 constexpr int RestMs = 100;
